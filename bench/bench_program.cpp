@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "bench_program.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <fstream>
+#include <stdexcept>
+
+#include "document/crossword_state.h"
+#include "shell/events.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_ucit_snimi.h"
+#include "shell/language.h"
+#include "shell/load_dialog.h"
+#include "shell/toolkit/application.h"
+#include "shell/toolkit/host_paths.h"
+
+namespace kalvon {
+
+int ProgramLanguage() { return 0; }
+
+}  // namespace kalvon
+
+namespace kalvon::bench {
+
+namespace {
+
+std::string ThreeDigits(int number) {
+  const std::string digits = std::to_string(number);
+  return std::string(3 - digits.size(), ' ') + digits;
+}
+
+}  // namespace
+
+std::string CrosswordFile(const FileShape& shape) {
+  std::string text = "\r\nNaziv: Merenje\r\nDimenzije:X=" + ThreeDigits(shape.columns) +
+                     " Y=" + ThreeDigits(shape.rows) +
+                     "\r\nOpis: Merenje\r\nBroj: 1\r\nH: " + (shape.side_by_side ? "1" : "0") +
+                     "\r\nV: 0\r\nH: 0\r\nV: 0\r\n";
+  const std::string letters = "ABVGD\\E@ZIJKLQMNWOPRST]UFHC^X[";
+  for (int cell = 0; cell < shape.columns * shape.rows; ++cell) {
+    const char letter = letters[static_cast<std::size_t>(cell) % letters.size()];
+    text += {letter, letter};
+    text += cell % 2 == 0 ? "$0$1$1$11\r\n" : "$0$0$0$00\r\n";
+    text +=
+        cell % 3 == 0 ? "011$$$$Pitanje koje ima vi{e od jednog reda$Drugo pitanje$\r\n" : "\r\n";
+  }
+  return text;
+}
+
+BenchProgram::BenchProgram() {
+  QTemporaryDir made(QDir::tempPath() + "/kalvon-bench-XXXXXX");
+  made.setAutoRemove(false);
+  folder_ = made.path().toStdString();
+  glavni = CrosswordState{};
+  toolkit::App::Path(toolkit::LogicPath(folder_.string()));
+  BindEvents();
+  frm_glavni->Show();
+}
+
+BenchProgram::~BenchProgram() {
+  UnloadForms();
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+void BenchProgram::Write(const std::string& name, const std::string& bytes) const {
+  std::ofstream(folder_ / name, std::ios::binary) << bytes;
+}
+
+void BenchProgram::Choose(const std::string& name) const {
+  auto& files = frm_ucit_snimi->File1;
+  if (files.ListCount() == 0) files.Path(toolkit::LogicPath(folder_.string()));
+  otvori_dijalog(0);
+  for (int row = 0; row < files.ListCount(); ++row) {
+    if (files.List(row) != name) continue;
+    files.ListIndex(row);
+    return;
+  }
+  throw std::runtime_error("no such crossword: " + name);
+}
+
+void BenchProgram::Load() {
+  dijalog_komanda(0);
+  if (glavni.broj_pitanja == 0) throw std::runtime_error("the crossword did not load");
+}
+
+}  // namespace kalvon::bench

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "display/clue_printing.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "display/clue_page.h"
+#include "display/clue_text.h"
+#include "display/fonts.h"
+#include "document/crossword_state.h"
+#include "shell/forms/frm_glavni.h"
+
+namespace kalvon {
+
+namespace {
+
+constexpr int text_left = 15;
+constexpr int icon_left = 2;
+/// Pixels of a list's width that its text leaves free.
+constexpr int text_margin = 20;
+
+/// Icon of a medium: the index in `pic_media`. Only these spellings of an ending have one.
+struct MediaIcon {
+  const char* ending;
+  int icon;
+};
+constexpr MediaIcon media_icons[] = {
+    {".bmp", 0}, {".BMP", 0}, {".txt", 1}, {".TXT", 1}, {".wav", 2},
+    {".WAV", 2}, {".mid", 2}, {".MID", 2}, {".avi", 3}, {".AVI", 3},
+};
+
+/// So many characters never fit in a row, and so many rows reach far below the box: what lies
+/// behind them in an endless clue is neither measured nor printed.
+constexpr std::size_t characters_at_most = 200;
+constexpr int rows_at_most = 100;
+
+/// Whether a text is no wider than a row of a list.
+bool Fits(std::string_view text, int width) { return MeasuredWidth(std::string(text)) <= width; }
+
+/// Length of the row that begins a text: the longest beginning that fits and ends before a blank,
+/// or one character if none does.
+std::size_t RowLength(std::string_view text, int width) {
+  text = text.substr(0, characters_at_most);
+  std::size_t length = 1;
+  // A longer beginning is never narrower, so the first one that is too wide ends the search.
+  for (std::size_t end = 0; end < text.size();) {
+    end = std::min(text.find(' ', end + 1), text.size());
+    if (!Fits(text.substr(0, end), width)) break;
+    length = end;
+  }
+  return length;
+}
+
+void PrintIcon(toolkit::PictureBox& list, const std::string& media, int y) {
+  for (const MediaIcon& row : media_icons)
+    if (media.ends_with(row.ending))
+      list.PaintPicture(frm_glavni->pic_media(row.icon).Picture(), icon_left, y);
+}
+
+}  // namespace
+
+int PrintClue(int strana, const std::string& text, const std::string& media) {
+  auto& list = frm_glavni->pic_tekst(strana - 1);
+  const int width = list.Width() - text_margin;
+  int rows = 0;
+  for (std::string_view rest = text; !rest.empty() && rows < rows_at_most; ++rows) {
+    LastPrintedRow(strana) = LastPrintedRow(strana) + 1;
+    const int y = LastPrintedRow(strana) * list_row_height;
+    const std::size_t length = RowLength(rest, width);
+    list.CurrentX(text_left);
+    list.CurrentY(y);
+    list.Print(std::string(rest.substr(0, length)));
+    if (rows == 0) PrintIcon(list, media, y);
+    rest = Trimmed(rest.substr(length));
+  }
+  return rows;
+}
+
+}  // namespace kalvon

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "display/clue_selection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "display/clue_highlight.h"
+#include "display/clue_page.h"
+#include "display/clue_text.h"
+#include "display/grid_geometry.h"
+#include "display/grid_view.h"
+#include "display/word_highlight.h"
+#include "document/crossword_state.h"
+#include "document/media_pack.h"
+#include "multimedia/media_pane.h"
+#include "shell/forms/frm_glavni.h"
+#include "solving/word_selection.h"
+
+namespace kalvon {
+
+namespace {
+
+/// The row of a list, from 1, at a pixel from its top.
+int RowAt(double y) {
+  return static_cast<int>(std::clamp(std::floor(y / list_row_height) + 1, 1.0, 1.0 * list_rows));
+}
+
+/// Finds the clue of a row and remembers its medium and its text; the text becomes "0" and nothing
+/// else changes where there is no clue.
+std::optional<PageClue> TakeClickedClue(int strana, int red) {
+  const auto clue = ClueOfRow(strana, red);
+  glavni.media_pitanje = clue ? std::as_const(glavni).lista(clue->n, 1, strana) : "0";
+  if (clue) glavni.media_fajl = std::as_const(glavni).lista(clue->n, 5, strana);
+  return clue;
+}
+
+/// Takes the mark off the word in the grid, which runs in the direction `smer`.
+void UnmarkWord() {
+  const Int16 direction = glavni.smer;
+  glavni.smer = direction == 1 ? 2 : 1;
+  ugasi_oznaku_reci();
+  glavni.smer = direction;
+}
+
+/// The first column or row of a view that begins with the given one, as far as the grid allows.
+int FirstShown(int column_or_row, int grid_size) {
+  return std::max(1, std::min(column_or_row, grid_size - view_cells + 1));
+}
+
+/// Moves the view to a cell that it doesn't show, in as few directions as needed. Each bar repaints
+/// on its own, with the old word marked; the last painting leaves no mark.
+void BringIntoView(int x, int y) {
+  const bool column_shown = InView(x, glavni.pogled_x);
+  const bool row_shown = InView(y, glavni.pogled_y);
+  if (column_shown && row_shown) return;
+  if (!column_shown) {
+    glavni.pogled_x = FirstShown(x, glavni.ukr_sirina);
+    frm_glavni->scr_hor.Value(glavni.pogled_x - 1);
+  }
+  if (!row_shown) {
+    glavni.pogled_y = FirstShown(y, glavni.ukr_visina);
+    frm_glavni->scr_ver.Value(glavni.pogled_y - 1);
+  }
+  crtaj_ukrstenicu();
+}
+
+/// Selects the word of a list's direction that starts in a cell in view, by a click on its middle.
+void ClickFirstCell(int strana, int x, int y) {
+  glavni.smer = strana;
+  glavni.iz_liste = 1;
+  glavni.prelaz = 1;
+  constexpr int middle = cell_pitch / 2;
+  klik_polje((x - glavni.pogled_x) * cell_pitch + middle,
+             (y - glavni.pogled_y) * cell_pitch + middle);
+}
+
+}  // namespace
+
+void klik_pitanje(int index, int button, double /*x*/, double y) {
+  const int strana = index + 1;
+  const int red = RowAt(y);
+  const auto clue = TakeClickedClue(strana, red);
+  if (!clue) {
+    // The box cannot take the focus while the form is disabled.
+    toolkit::pass_over([] { frm_glavni->txt_rec(0).SetFocus(); });
+    return;
+  }
+  const int x1 = std::as_const(glavni).pitanja(clue->number, 2);
+  const int y1 = std::as_const(glavni).pitanja(clue->number, 3);
+
+  glavni.prelaz_smer = glavni.smer;
+  if (glavni.pret_x2 > 0 && glavni.pret_y2 > 0) glavni.prelaz_oba = 1;
+  UnmarkWord();
+  ugasi_oznaku_pitanja(strana);
+  glavni.smer = strana;
+  glavni.sel_broj = clue->number;
+  glavni.sel_strana = strana;
+  oznaci_pitanje(strana, red);
+  BringIntoView(x1, y1);
+  ClickFirstCell(strana, x1, y1);
+  if (button == 2 && !Trimmed(glavni.media_fajl).empty())
+    izvuci_media();
+  else
+    zatvori_media();
+}
+
+}  // namespace kalvon

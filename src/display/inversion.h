@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/toolkit/picture_box.h"
+
+namespace kalvon {
+
+/// Marks a rectangle of a picture, both corners included: white turns pale yellow and black dark
+/// blue. The same call again gives the picture back.
+void Invert(toolkit::PictureBox& picture, int x1, int y1, int x2, int y2);
+
+}  // namespace kalvon

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "shell/commands.h"
+
+#include "document/crossword_save.h"
+#include "document/crossword_state.h"
+#include "multimedia/media_pane.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/load_dialog.h"
+#include "shell/options_dialog.h"
+#include "shell/startup.h"
+#include "solving/puzzle_commands.h"
+
+namespace kalvon {
+
+namespace {
+
+void FocusLetters() {
+  auto& first = frm_glavni->txt_rec(0);
+  if (first.Enabled()) first.SetFocus();
+}
+
+void SolveWord() {
+  resi_rec();
+  FocusLetters();
+}
+
+void EraseWord() {
+  brisi_rec();
+  FocusLetters();
+}
+
+void ShowOptions() {
+  if (frm_glavni->pic_media(4).Visible() && !glavni.media_fajl.empty()) zatvori_media();
+  prikazi_opcije();
+}
+
+}  // namespace
+
+void komanda_glavni(int index) {
+  switch (index) {
+    case 0:
+      return otvori_dijalog(0);
+    case 1:
+      return snimi_ukrstenicu();
+    case 2:
+      return kraj();
+    case 3:
+      return SolveWord();
+    case 4:
+      return EraseWord();
+    case 5:
+      return ShowOptions();
+    default:
+      return;
+  }
+}
+
+}  // namespace kalvon

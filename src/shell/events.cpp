@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "shell/events.h"
+
+#include "display/clue_lists.h"
+#include "display/clue_selection.h"
+#include "display/grid_scroll.h"
+#include "document/crossword_state.h"
+#include "multimedia/media_pane.h"
+#include "shell/commands.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_help.h"
+#include "shell/forms/frm_opcije.h"
+#include "shell/forms/frm_ucit_snimi.h"
+#include "shell/load_dialog.h"
+#include "shell/options_dialog.h"
+#include "shell/startup.h"
+#include "shell/toolkit/application.h"
+#include "solving/word_editor.h"
+#include "solving/word_selection.h"
+
+namespace kalvon {
+
+namespace {
+
+constexpr int enter = 13;
+
+/// A click closes the pane, unless a video is running.
+void ClickMediaPane() {
+  if (glavni.media_tip != "avi") zatvori_media();
+}
+
+void BindMediaPane(FrmGlavni& form) {
+  for (const int index : {4, 5}) form.pic_media(index).Click = ClickMediaPane;
+  form.pic_media.ForEach([](toolkit::PictureBox& picture) {
+    picture.GotFocus = [] {
+      // Once the window has lost the focus again there is no handle, and the old one stays.
+      if (const int handle = toolkit::GetFocus(); handle != 0) glavni.media_hwnd = handle;
+    };
+  });
+  form.txt_media.ForEach([](toolkit::TextBox& box) {
+    box.Click = ClickMediaPane;
+    box.KeyPress = [](int& character) { character = 0; };
+  });
+  form.mm_media.Done = [](int) {
+    glavni.media_gotovo = 1;
+    otvori_media();
+  };
+}
+
+void BindMainForm(FrmGlavni& form) {
+  form.Resize = [] { HoldSize(); };
+  form.Unload = [](bool&) { komanda_glavni(2); };
+  form.cmd_glavni.ForEach([](toolkit::Button& button) {
+    button.Click = [index = button.Index()] { komanda_glavni(index); };
+  });
+  form.pic_ukr.MouseDown = [](int, int, double x, double y) { klik_polje(x, y); };
+  form.pic_tekst.ForEach([](toolkit::PictureBox& list) {
+    list.MouseDown = [index = list.Index()](int button, int, double x, double y) {
+      klik_pitanje(index, button, x, y);
+    };
+  });
+  form.scr_hor.Change = [] { skrol_ukrstenica(0); };
+  form.scr_ver.Change = [] { skrol_ukrstenica(1); };
+  form.scr_tekst.ForEach([](toolkit::ScrollBar& bar) {
+    bar.Change = [index = bar.Index()] {
+      if (glavni.skrol_aktivan == 1) skrol_pitanja(index);
+    };
+  });
+  form.txt_rec.ForEach([](toolkit::TextBox& box) {
+    box.KeyDown = [index = box.Index()](int& key_code, int) {
+      const int pressed = key_code;
+      key_code = 0;
+      unos_tastera(index, pressed);
+    };
+    box.KeyPress = [index = box.Index()](int& character) {
+      const int typed = character;
+      character = 0;
+      unos_znaka(index, typed);
+    };
+  });
+  BindMediaPane(form);
+}
+
+void BindLoadDialog(FrmUcitSnimi& form) {
+  form.cmd_ucit.ForEach([](toolkit::Button& button) {
+    button.Click = [index = button.Index()] { dijalog_komanda(index); };
+  });
+  form.Drive1.Change = [] { dijalog_navigacija(0); };
+  form.Dir1.Change = [] { dijalog_navigacija(1); };
+  form.File1.Click = [] { dijalog_navigacija(2); };
+  form.File1.DblClick = [] { dijalog_komanda(0); };
+  form.File1.KeyPress = [](int& character) {
+    if (character == enter) dijalog_komanda(0);
+  };
+  form.txt_ucit.Change = [] { opis_fajla(); };
+}
+
+void BindOptions(FrmOpcije& form) {
+  form.cmd_opcije.ForEach([](toolkit::Button& button) {
+    button.Click = [index = button.Index()] { komanda_opcije(index); };
+  });
+}
+
+}  // namespace
+
+void BindEvents() {
+  frm_glavni.Load = [](FrmGlavni& form) {
+    BindMainForm(form);
+    pokreni();
+  };
+  frm_ucit_snimi.Load = BindLoadDialog;
+  frm_opcije.Load = BindOptions;
+}
+
+void UnloadForms() {
+  frm_help.Unload();
+  frm_opcije.Unload();
+  frm_ucit_snimi.Unload();
+  frm_glavni.Unload();
+}
+
+}  // namespace kalvon

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "shell/language.h"
+
+namespace kalvon {
+
+int ProgramLanguage() { return 1; }
+
+}  // namespace kalvon

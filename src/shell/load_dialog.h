@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace kalvon {
+
+/// Opens the dialog over the main form: 0 to load, 1 to save.
+void otvori_dijalog(int mode);
+
+/// Closes the dialog and gives the input back to the main form.
+void zatvori_dijalog();
+
+/// A button of the dialog: 0 go on, 1 cancel.
+void dijalog_komanda(int index);
+
+/// A list of the dialog has changed: 0 drives, 1 folders, 2 files.
+void dijalog_navigacija(int list);
+
+/// Describes the chosen file by the head of it.
+void opis_fajla();
+
+}  // namespace kalvon

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "shell/events.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/toolkit/application.h"
+
+int main(int argc, char** argv) {
+  toolkit::Application application(argc, argv);
+  kalvon::BindEvents();
+  kalvon::FrmGlavni& start = *kalvon::frm_glavni;
+  if (!toolkit::Ended()) start.Show();
+  const int status = application.Run();
+  kalvon::UnloadForms();
+  return status;
+}

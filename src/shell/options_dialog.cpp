@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "shell/options_dialog.h"
+
+#include <string>
+
+#include "display/font_change.h"
+#include "document/crossword_state.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_opcije.h"
+#include "solving/puzzle_commands.h"
+
+namespace kalvon {
+
+namespace {
+
+/// Keeps a caption up to its colon and puts a text behind it.
+void PutBehindColon(int label, const std::string& text) {
+  auto& statistics = frm_opcije->Label1(label);
+  const std::string& caption = statistics.Caption();
+  statistics.Caption(caption.substr(0, caption.find(':') + 1) + text);
+}
+
+void ShowStatistics() {
+  const int cells = glavni.ukr_visina * glavni.ukr_sirina;
+  const auto number = [](int value) { return " " + std::to_string(value); };
+  PutBehindColon(
+      4, " X=" + std::to_string(glavni.ukr_sirina) + " Y=" + std::to_string(glavni.ukr_visina));
+  PutBehindColon(10, number(cells));
+  PutBehindColon(8, number(glavni.br_crnih));
+  PutBehindColon(9, number(cells - glavni.br_crnih));
+  PutBehindColon(5, number(glavni.br_uspravnih + glavni.br_vodoravnih));
+  PutBehindColon(6, number(glavni.br_vodoravnih));
+  PutBehindColon(7, number(glavni.br_uspravnih));
+}
+
+}  // namespace
+
+void LayOutOptions() {
+  auto& form = *frm_opcije;
+  auto& settings = form.frm_opcije(2);
+  auto& puzzle = form.frm_opcije(0);
+  auto& statistics = form.frm_opcije(1);
+  auto& go_on = form.cmd_opcije(0);
+  // The English interface has neither a script nor a keyboard to choose.
+  const bool with_settings = glavni.jezik == 0;
+  const int above = with_settings ? settings.Height() : 0;
+
+  settings.Left(135);
+  settings.Top(60);
+  settings.Visible(with_settings);
+  puzzle.Left(135);
+  puzzle.Top(above + 60);
+  statistics.Left(135);
+  statistics.Top(puzzle.Height() + above + 120);
+  go_on.Top(puzzle.Height() + statistics.Height() + above + 180);
+  form.Height(puzzle.Height() + statistics.Height() + above + go_on.Height() + 600);
+}
+
+void prikazi_opcije() {
+  ShowStatistics();
+  frm_opcije->Label2.Caption("");
+  frm_opcije->Show();
+  frm_glavni->Enabled(false);
+}
+
+void sakrij_opcije() {
+  frm_glavni->Enabled(true);
+  frm_glavni->Show();
+  frm_opcije->Hide();
+}
+
+void komanda_opcije(int index) {
+  switch (index) {
+    case 0:
+      primeni_font();
+      return sakrij_opcije();
+    case 2:
+      return operacija_celine(0);
+    case 3:
+      primeni_font();
+      return operacija_celine(1);
+    case 4:
+      return operacija_celine(2);
+    case 5:
+      return operacija_celine(3);
+    default:
+      return;
+  }
+}
+
+}  // namespace kalvon

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "shell/startup.h"
+
+#include "display/grid_geometry.h"
+#include "document/crossword_state.h"
+#include "document/settings.h"
+#include "multimedia/media_pane.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_opcije.h"
+#include "shell/forms/frm_ucit_snimi.h"
+#include "shell/language.h"
+#include "shell/options_dialog.h"
+#include "shell/toolkit/application.h"
+#include "shell/toolkit/host_paths.h"
+
+namespace kalvon {
+
+namespace {
+
+constexpr int without_title_bar =
+    300;  // Twips by which a form that is too high for the screen grows.
+
+void CenterOnScreen(toolkit::Form& form) {
+  form.Left(HalfDown(toolkit::Screen::Width() - form.Width()));
+  form.Top(HalfDown(toolkit::Screen::Height() - form.Height()));
+}
+
+void PlaceForms() {
+  if (frm_glavni->Height() > toolkit::Screen::Height()) {
+    frm_glavni->Caption("");
+    frm_glavni->Height(frm_glavni->Height() + without_title_bar);
+  }
+  CenterOnScreen(*frm_glavni);
+  CenterOnScreen(*frm_ucit_snimi);
+  CenterOnScreen(*frm_opcije);
+  LayOutOptions();
+}
+
+void ShowProgramFolder() {
+  auto& dialog = *frm_ucit_snimi;
+  dialog.Drive1.Drive(glavni.app_staza.substr(0, 3));
+  dialog.Dir1.Path(glavni.app_staza);
+  dialog.File1.Path(glavni.app_staza);
+  dialog.File1.Pattern("*.qvm");
+}
+
+void DisableWhatNeedsACrossword() {
+  auto& form = *frm_glavni;
+  form.pic_ukr.Enabled(false);
+  form.scr_hor.Enabled(false);
+  form.scr_ver.Enabled(false);
+  form.scr_tekst.ForEach([](auto& bar) { bar.Enabled(false); });
+  form.pic_tekst.ForEach([](auto& list) { list.Enabled(false); });
+  form.txt_rec.ForEach([](auto& box) { box.Enabled(false); });
+  for (const int index : {1, 3, 4, 5}) form.cmd_glavni(index).Enabled(false);
+}
+
+void ChooseFont() {
+  const bool english = glavni.jezik == 1;
+  glavni.font_ime = english ? "MS Sans Serif" : "Kalvon";
+  if (english) frm_opcije->opt_opcije(0).Value(true);
+  auto& form = *frm_glavni;
+  form.txt_media.ForEach([](auto& box) { box.FontName(glavni.font_ime); });
+  form.txt_rec.ForEach([](auto& box) { box.FontName(glavni.font_ime); });
+  if (english) form.txt_rec1.FontName(glavni.font_ime);
+}
+
+void Start() {
+  glavni.jezik = ProgramLanguage();
+  glavni.app_staza = toolkit::WithBackslash(toolkit::App::Path());
+  PlaceForms();
+  ShowProgramFolder();
+  glavni.azbuka =
+      glavni.jezik == 0 ? "ABVGD\\E@ZIJKLQMNWOPRST]UFHC^X[" : "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  glavni.nule = "00000";
+  glavni.smer = 2;
+  glavni.rec_x1 = glavni.rec_y1 = glavni.rec_x2 = glavni.rec_y2 = 0;
+  glavni.pre_ucitavanja = 1;
+  DisableWhatNeedsACrossword();
+  ucitaj_ini();
+  glavni.pomoc_otvorena = 0;
+  ChooseFont();
+  glavni.forma_sirina = frm_glavni->Width();
+  glavni.forma_visina = frm_glavni->Height();
+}
+
+}  // namespace
+
+void pokreni() {
+  try {
+    Start();
+  } catch (const toolkit::RuntimeError&) {
+    toolkit::End();
+  }
+}
+
+void kraj() {
+  toolkit::pass_over([] { zatvori_media(); });
+  snimi_ini();
+  toolkit::End();
+}
+
+void HoldSize() {
+  if (glavni.forma_sirina == 0) return;  // The start sequence still settles the size.
+  frm_glavni->Width(glavni.forma_sirina);
+  frm_glavni->Height(glavni.forma_visina);
+}
+
+}  // namespace kalvon

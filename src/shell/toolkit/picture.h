@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+class QImage;
+
+namespace toolkit {
+
+/// An image, shared and never changed; the empty one is no picture.
+class Picture {
+ public:
+  Picture() = default;
+  explicit Picture(std::shared_ptr<const QImage> image) : image_(std::move(image)) {}
+
+  [[nodiscard]] bool Empty() const { return image_ == nullptr; }
+  [[nodiscard]] const QImage& image() const { return *image_; }
+
+ private:
+  std::shared_ptr<const QImage> image_;
+};
+
+/// The image of a bitmap file; an empty path gives no picture.
+/// Error 53 if there is no such file, 481 if it holds no image.
+Picture LoadPicture(const std::string& path);
+
+/// One of the pictures that are built into the program, by its file name.
+Picture BuiltInPicture(const std::string& name);
+
+}  // namespace toolkit

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QPointer>
+#include <QWidget>
+
+namespace toolkit {
+
+class PictureBox;
+
+/// The widget of a picture: an image that keeps what is drawn; painting only copies it. The image
+/// has the screen's pixel ratio, while all coordinates are the logical ones.
+class Surface : public QWidget {
+ public:
+  explicit Surface(PictureBox& box);
+
+  /// The painter of the image, which stays open between drawing calls: opening one for each letter
+  /// of a grid would cost more than the letters.
+  QPainter& Painter(QPainter::CompositionMode mode);
+  /// Says that a part of the image has changed.
+  void Drawn(const QRect& part);
+  void Clear(const QColor& colour);
+
+  /// Gives the image the size and the pixel ratio of the widget, and keeps what it shows. A hidden
+  /// widget is not told of a new size, so whoever gives one calls this.
+  void Fit();
+
+  void AddFrame();
+  void PlaceFrame();
+
+  void SendWheelTo(QWidget* bar) { wheel_bar_ = bar; }
+
+  /// What is on the surface.
+  const QImage& Shown();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  PictureBox& box_;
+  QImage image_;
+  QPainter painter_;
+  QColor background_ = Qt::white;
+  bool pressed_ = false;
+  QPointer<QWidget> frame_;
+  QPointer<QWidget> wheel_bar_;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "solving/puzzle_commands.h"
+
+#include <string>
+#include <utility>
+
+#include "display/grid_view.h"
+#include "display/word_highlight.h"
+#include "document/crossword_state.h"
+#include "shell/forms/frm_opcije.h"
+#include "shell/toolkit/application.h"
+#include "solving/word_search.h"
+
+namespace kalvon {
+
+namespace {
+
+/// Applies a change to each letter cell of the selected word.
+void ChangeWord(void (*change)(std::string& cell)) {
+  for (const auto [x, y] : SelectedCells()) {
+    std::string& cell = glavni.ukr_polja(x, y, 1);
+    if (IsLetterCell(cell)) change(cell);
+  }
+}
+
+/// The repaint wipes whatever the first call draws; the last fills the letter boxes again.
+void ShowChange() {
+  ugasi_oznaku_reci();
+  crtaj_ukrstenicu();
+  oznaci_rec(0);
+}
+
+/// The hourglass, until the end of the block.
+class Busy {
+ public:
+  Busy() { toolkit::Screen::MousePointer(11); }
+  ~Busy() { toolkit::Screen::MousePointer(0); }
+  Busy(const Busy&) = delete;
+  Busy& operator=(const Busy&) = delete;
+};
+
+enum Operation { erase_all, solve_all, count_wrong, erase_wrong };
+
+/// The third character tells, as in the drawing of the grid, whether the cell has a user's letter.
+bool IsWrong(const std::string& cell) {
+  return cell.size() > 2 && cell[2] == '$' && cell[0] != cell[1];
+}
+
+void Change(std::string& cell, int operation) {
+  if (operation == solve_all) {
+    cell = WithUserLetter(cell, cell.front());
+  } else if (operation == erase_all || (operation == erase_wrong && IsWrong(cell))) {
+    cell = WithoutUserLetter(cell);
+  }
+}
+
+}  // namespace
+
+void resi_rec() {
+  ChangeWord([](std::string& cell) { cell.replace(1, UserLetter(cell).size(), 1, cell.front()); });
+  ShowChange();
+}
+
+void brisi_rec() {
+  ChangeWord([](std::string& cell) { cell.erase(1, UserLetter(cell).size()); });
+  ShowChange();
+}
+
+void operacija_celine(int operation) {
+  const Busy busy;
+  std::int32_t wrong_letters = 0;
+  for (int x = 1; x <= glavni.ukr_sirina; ++x) {
+    for (int y = 1; y <= glavni.ukr_visina; ++y) {
+      const std::string& cell = std::as_const(glavni).ukr_polja(x, y, 1);
+      if (!IsLetterCell(cell)) continue;
+      if (IsWrong(cell)) ++wrong_letters;
+      Change(glavni.ukr_polja(x, y, 1), operation);
+    }
+  }
+
+  if (operation == count_wrong) {
+    frm_opcije->Label2.Caption(std::to_string(wrong_letters));
+  } else {
+    ShowChange();
+  }
+}
+
+}  // namespace kalvon

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "document/crossword_state.h"
+
+namespace kalvon {
+
+/// Turns the direction, unless a clue was just clicked, and finds the word through the clicked cell
+/// of the view. Without a word start before the cell the selection comes out empty.
+void nadji_rec();
+
+/// The cells of the selected word from first to last; none for an empty selection.
+std::vector<GridCell> SelectedCells();
+
+}  // namespace kalvon

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "solving/word_selection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "display/grid_geometry.h"
+#include "display/word_highlight.h"
+#include "document/crossword_state.h"
+#include "multimedia/media_pane.h"
+#include "solving/word_search.h"
+
+namespace kalvon {
+
+namespace {
+
+/// View cell, from 1, of a pixel position. A grid smaller than the view ends it.
+int ViewCell(double position, int grid_cells) {
+  const double cell = std::floor(position / cell_pitch) + 1;
+  return std::min(static_cast<int>(std::clamp(cell, 1.0, double{view_cells})), grid_cells);
+}
+
+/// A clue without a word was clicked: its click has taken the mark off the word on record and has
+/// turned to the clue's direction. That word stays selected, so it gets its direction and its mark
+/// back, and nothing of the click is left for the next one.
+void StayWithWord() {
+  glavni.iz_liste = 0;
+  glavni.prelaz = 0;
+  glavni.smer = glavni.prelaz_smer;
+  oznaci_rec(0);
+}
+
+void TakeOldMarkOff() {
+  if (glavni.prelaz_oba == 0) {
+    ugasi_oznaku_reci();
+    return;
+  }
+  // The clue click turned no direction, so the opposite of the marked word's is not in `smer`.
+  const Int16 direction = std::exchange(glavni.smer, 3 - glavni.prelaz_smer);
+  ugasi_oznaku_reci();
+  glavni.prelaz_oba = 0;
+  glavni.smer = direction;
+}
+
+}  // namespace
+
+void klik_polje(double x, double y) {
+  const int view_x = ViewCell(x, glavni.ukr_sirina);
+  const int view_y = ViewCell(y, glavni.ukr_visina);
+  const int grid_x = glavni.pogled_x + view_x - 1;
+  const int grid_y = glavni.pogled_y + view_y - 1;
+  if (!IsLetterCell(std::as_const(glavni).ukr_polja(grid_x, grid_y, 1))) {
+    if (glavni.iz_liste == 1) StayWithWord();
+    return;
+  }
+  glavni.klik_x = view_x;
+  glavni.klik_y = view_y;
+
+  nadji_rec();
+  if (glavni.iz_liste == 0) TakeOldMarkOff();
+  oznaci_rec(1);
+  glavni.iz_liste = 0;
+  zatvori_media();
+  glavni.pret_x1 = glavni.rec_x1;
+  glavni.pret_y1 = glavni.rec_y1;
+  glavni.pret_x2 = glavni.rec_x2;
+  glavni.pret_y2 = glavni.rec_y2;
+  glavni.prelaz_smer = glavni.smer;
+}
+
+}  // namespace kalvon

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "document/settings.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "shell/toolkit/host_paths.h"
+#include "support/crossword_text.h"
+#include "support/program_test.h"
+
+namespace kalvon {
+namespace {
+
+using testing::Lines;
+
+constexpr auto file_name = "m_kalvon_ini.txt";
+
+class Settings : public testing::ProgramTest {
+ protected:
+  explicit Settings(int language = 0) : ProgramTest(language) {}
+
+  [[nodiscard]] std::string ProgramFolder() const { return toolkit::LogicPath(folder().string()); }
+
+  static void ExpectOptions(bool cyrillic, bool unicode) {
+    EXPECT_EQ(frm_opcije->opt_opcije(0).Value(), cyrillic);
+    EXPECT_EQ(frm_opcije->opt_opcije(1).Value(), !cyrillic);
+    EXPECT_EQ(frm_opcije->opt_opcije1(0).Value(), !unicode);
+    EXPECT_EQ(frm_opcije->opt_opcije1(1).Value(), unicode);
+  }
+};
+
+TEST_F(Settings, SurviveARestart) {
+  ExpectOptions(false, false);
+  for (const int script : {0, 1}) {
+    for (const int layout : {0, 1}) {
+      frm_opcije->opt_opcije(script).Value(true);
+      frm_opcije->opt_opcije1(layout).Value(true);
+      snimi_ini();
+      EXPECT_EQ(ReadFile(file_name),
+                Lines({"Vostrand Kalvon Multimedia", "Staza:" + ProgramFolder(),
+                       script == 0 ? "Pismo:Cirilica" : "Pismo:Latinica",
+                       layout == 0 ? "Tastatura:YU ASCII" : "Tastatura:Unikod"}));
+      Restart();
+      ExpectOptions(script == 0, layout == 1);
+    }
+  }
+}
+
+TEST_F(Settings, HaveDefaultsForWhatCannotBeRead) {
+  struct Case {
+    const char* fault;
+    std::string bytes;
+    bool cyrillic, unicode;
+  };
+  const std::string head = "Any title\r\nStaza:c:\\\r\n";
+  const std::vector<Case> cases = {
+      {"empty file", "", false, false},
+      {"two lines", head, false, false},
+      {"three lines", head + "Pismo:Cirilica\r\n", true, false},
+      {"no line end", head + "Pismo:Cirilica\r\nTastatura:Unikod", true, true},
+      {"other labels", head + ":Cirilica\r\nx:Unikod\r\n", true, true},
+      {"blank behind the colon", head + "Pismo: Cirilica\r\nTastatura: Unikod\r\n", false, false},
+      {"small letters", head + "Pismo:cirilica\r\nTastatura:unikod\r\n", false, false},
+      {"more text", head + "Pismo:Cirilica \r\nTastatura:Unikod:\r\n", false, false},
+      {"no folder", "\r\nStaza:c:\\no\\such\r\nPismo:Cirilica\r\nTastatura:Unikod\r\n", true, true},
+      {"no colon", "\r\nStaza\r\nCirilica\r\nUnikod\r\n", false, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.fault);
+    WriteFile(file_name, c.bytes);
+    Restart();
+    ExpectOptions(c.cyrillic, c.unicode);
+    const bool other_folder = c.bytes.starts_with(head);
+    EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), other_folder ? "c:\\" : ProgramFolder());
+  }
+}
+
+TEST_F(Settings, BringBackTheFolderWithItsFiles) {
+  const std::filesystem::path other = folder() / "Druga: a";
+  std::filesystem::create_directory(other);
+  WriteFile("Druga: a/zima.qvm", "");
+  frm_ucit_snimi->Dir1.Path(toolkit::LogicPath(other.string()));
+  snimi_ini();
+  Restart();
+  EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), toolkit::LogicPath(other.string()));
+  ASSERT_EQ(frm_ucit_snimi->File1.ListCount(), 1);
+  EXPECT_EQ(frm_ucit_snimi->File1.List(0), "zima.qvm");
+}
+
+TEST_F(Settings, LeaveAFileThatCannotBeWritten) {
+  WriteFile(file_name, "old\r\n");
+  std::filesystem::permissions(folder() / file_name, std::filesystem::perms::owner_read);
+  snimi_ini();
+  EXPECT_EQ(ReadFile(file_name), "old\r\n");
+  std::filesystem::remove(folder() / file_name);
+  std::filesystem::create_directory(folder() / file_name);
+  snimi_ini();
+  EXPECT_TRUE(std::filesystem::is_directory(folder() / file_name));
+}
+
+class EnglishSettings : public Settings {
+ protected:
+  EnglishSettings() : Settings(1) {}
+};
+
+TEST_F(EnglishSettings, TakeOnlyTheFolder) {
+  WriteFile(file_name, "\r\nStaza:c:\\\r\nPismo:Cirilica\r\nTastatura:Unikod\r\n");
+  ucitaj_ini();
+  EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), "c:\\");
+  ExpectOptions(false, false);
+}
+
+}  // namespace
+}  // namespace kalvon

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kalvon::testing {
+
+/// A crossword file in the making. Word starts are found from its rows: a word has two letters or
+/// more. Clues are numbered as the program numbers those of a crossword of this one file.
+struct CrosswordText {
+  /// Solution letters of each row, from the top; '#' is a gray block, '.' an empty cell.
+  std::vector<std::string> rows = {};
+  /// The user's letters in the same places; a blank or a missing place is none.
+  std::vector<std::string> letters = {};
+  /// Marks of the lines 6 to 9: across, down, across, down.
+  std::array<int, 4> marks = {};
+  /// Clues by their names: "A1" across number 1, "D1" down number 1. Others say their names.
+  std::map<std::string, std::string> clues = {};
+  /// The two digits of broken borders, by the column and row of the cell; the others have "00".
+  std::map<std::pair<int, int>, std::string> borders = {};
+  std::string media_table = {};
+  std::string title = "Proba";
+  std::string description = "Tri puta tri";
+  int number = 1;
+};
+
+/// The bytes of its `.qvm` file.
+std::string Qvm(const CrosswordText& text);
+
+/// A `.qvm` file of these solution rows, with no more to it.
+std::string Qvm(const std::vector<std::string>& rows);
+
+/// Joins lines, each closed by CR LF.
+std::string Lines(const std::vector<std::string>& lines);
+
+/// A header of nine lines that gives a size; the marks are those of the lines 6 to 9.
+std::vector<std::string> HeaderLines(int width, int height, const std::array<int, 4>& marks = {});
+
+}  // namespace kalvon::testing

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "support/program_test.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <fstream>
+#include <sstream>
+
+#include "shell/events.h"
+#include "shell/language.h"
+#include "shell/toolkit/application.h"
+#include "shell/toolkit/host_paths.h"
+#include "shell/toolkit/surface_p.h"
+
+namespace kalvon {
+
+namespace {
+
+int language_under_test = 0;
+
+}  // namespace
+
+int ProgramLanguage() { return language_under_test; }
+
+}  // namespace kalvon
+
+namespace kalvon::testing {
+
+ProgramTest::ProgramTest(int language) : language_(language) {
+  QTemporaryDir made(QDir::tempPath() + "/kalvon-test-XXXXXX");
+  made.setAutoRemove(false);
+  folder_ = made.path().toStdString();
+}
+
+ProgramTest::~ProgramTest() {
+  Stop();
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+void ProgramTest::SetUp() { Start(); }
+
+void ProgramTest::Start() {
+  language_under_test = language_;
+  glavni = CrosswordState{};
+  toolkit::App::Path(toolkit::LogicPath(folder_.string()));
+  BindEvents();
+  frm_glavni->Show();
+  QApplication::setActiveWindow(Widget("frm_glavni"));
+  QApplication::processEvents();
+}
+
+void ProgramTest::Stop() {
+  UnloadForms();
+  toolkit::Restart();
+}
+
+void ProgramTest::Restart() {
+  Stop();
+  Start();
+}
+
+void ProgramTest::WriteFile(const std::string& name, const std::string& bytes) const {
+  std::ofstream file(folder_ / name, std::ios::binary);
+  file << bytes;
+  ASSERT_TRUE(file.flush()) << name;
+}
+
+std::string ProgramTest::ReadFile(const std::string& name) const {
+  std::ostringstream bytes;
+  bytes << std::ifstream(folder_ / name, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+void ProgramTest::CopySample(const std::string& name) const {
+  std::filesystem::copy_file(std::filesystem::path(SAMPLES_FOLDER) / name, folder_ / name,
+                             std::filesystem::copy_options::overwrite_existing);
+}
+
+void ProgramTest::Choose(const std::string& name) {
+  // The dialog shows what it showed when its folder was last set.
+  frm_ucit_snimi->File1.Path(frm_ucit_snimi->Dir1.Path());
+  ClickButton("cmd_glavni(0)");
+  auto* list = Widget<QAbstractItemView>("File1");
+  for (int row = 0; row < frm_ucit_snimi->File1.ListCount(); ++row) {
+    if (frm_ucit_snimi->File1.List(row) != name) continue;
+    const QModelIndex index = list->model()->index(row, 0);
+    list->scrollTo(index);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+    return;
+  }
+  FAIL() << "The dialog does not list " << name;
+}
+
+void ProgramTest::Load(const std::string& name) {
+  Choose(name);
+  ClickButton("cmd_ucit(0)");
+  QApplication::setActiveWindow(Widget("frm_glavni"));
+}
+
+void ProgramTest::ClickCell(int x, int y) {
+  constexpr int pitch = 28;
+  ClickPicture("pic_ukr", (x - glavni.pogled_x) * pitch + pitch / 2,
+               (y - glavni.pogled_y) * pitch + pitch / 2);
+}
+
+void ProgramTest::ClickPicture(const std::string& control, int x, int y, int button) {
+  QTest::mouseClick(Widget(control), button == 2 ? Qt::RightButton : Qt::LeftButton, {}, {x, y});
+}
+
+void ProgramTest::ClickButton(const std::string& control) {
+  auto* button = Widget<QPushButton>(control);
+  ASSERT_NE(button, nullptr) << control;
+  QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void ProgramTest::Type(const std::string& letters) {
+  for (const QChar letter : QString::fromStdString(letters)) {
+    QWidget* focused = QApplication::focusWidget();
+    ASSERT_NE(focused, nullptr);
+    const auto key = static_cast<Qt::Key>(letter.toUpper().unicode());
+    QTest::sendKeyEvent(QTest::Click, focused, key, QString(letter), Qt::NoModifier);
+  }
+}
+
+void ProgramTest::PressKey(Qt::Key key) {
+  ASSERT_NE(QApplication::focusWidget(), nullptr);
+  QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+unsigned ProgramTest::PixelOf(const std::string& control, int x, int y) const {
+  return Widget<toolkit::Surface>(control)->Shown().pixel(x, y) & 0xFFFFFFU;
+}
+
+std::string ProgramTest::FocusedControl() const {
+  const QWidget* focused = QApplication::focusWidget();
+  return focused == nullptr ? "" : focused->objectName().toStdString();
+}
+
+QWidget* ProgramTest::Find(const std::string& control) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const QString name = QString::fromStdString(control);
+    if (window->objectName() == name) return window;
+    if (auto* found = window->findChild<QWidget*>(name)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace kalvon::testing

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWidget>
+#include <filesystem>
+#include <string>
+
+#include "document/crossword_state.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_opcije.h"
+#include "shell/forms/frm_ucit_snimi.h"
+
+namespace kalvon::testing {
+
+/// A fresh program, started in a temporary program folder, to be used as a user does: by mouse and
+/// keys on the real widgets, found by the names of their controls.
+class ProgramTest : public ::testing::Test {
+ protected:
+  /// `language` is that of the interface: 0 Serbian, 1 English.
+  explicit ProgramTest(int language = 0);
+  ~ProgramTest() override;
+
+  void SetUp() override;
+
+  /// Starts the program anew in the same folder, as after an end or a crash.
+  void Restart();
+
+  // Files of the program folder.
+  [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
+  void WriteFile(const std::string& name, const std::string& bytes) const;
+  [[nodiscard]] std::string ReadFile(const std::string& name) const;
+  void CopySample(const std::string& name) const;
+
+  /// Opens the dialog, clicks the file in its list and presses the button to go on.
+  void Load(const std::string& name);
+  /// Opens the dialog and clicks the file.
+  void Choose(const std::string& name);
+
+  /// Clicks the cell of the grid, which must be in the view.
+  void ClickCell(int x, int y);
+  /// Clicks a picture, at a pixel; `button` is 1 left, 2 right.
+  void ClickPicture(const std::string& control, int x, int y, int button = 1);
+  void ClickButton(const std::string& control);
+  /// Types UTF-8 text into the widget that has the focus, a key for each letter.
+  void Type(const std::string& letters);
+  void PressKey(Qt::Key key);
+
+  /// 0xRRGGBB of a pixel of a picture.
+  [[nodiscard]] unsigned PixelOf(const std::string& control, int x, int y) const;
+  /// Name of the control that has the focus.
+  [[nodiscard]] std::string FocusedControl() const;
+  /// The widget of a control of the form that holds it.
+  template <typename Kind = QWidget>
+  [[nodiscard]] Kind* Widget(const std::string& control) const {
+    return dynamic_cast<Kind*>(Find(control));
+  }
+
+ private:
+  [[nodiscard]] static QWidget* Find(const std::string& control);
+  void Start();
+  static void Stop();
+
+  std::filesystem::path folder_;
+  int language_;
+};
+
+}  // namespace kalvon::testing
