@@ -7,8 +7,10 @@ build_packages=(
   cmake
   g++
   libbenchmark-dev
+  libglib2.0-dev
   libgtest-dev
   ninja-build
+  pkg-config
   python3
   qt6-base-dev
   qt6-multimedia-dev
@@ -25,7 +27,6 @@ runtime_packages=(
   gstreamer1.0-plugins-good
   gstreamer1.0-pulseaudio
   timgm6mb-soundfont
-  xdg-utils
 )
 
 wayland_packages=(

@@ -5,6 +5,7 @@
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
 #include "shell/forms/frm_glavni.h"
+#include "shell/help.h"
 #include "shell/load_dialog.h"
 #include "shell/options_dialog.h"
 #include "shell/startup.h"
@@ -34,6 +35,14 @@ void ShowOptions() {
   prikazi_opcije();
 }
 
+void Help() {
+  if (glavni.jezik == 0) return OpenManual();
+  if (glavni.pomoc_otvorena == 1)
+    zatvori_pomoc();
+  else
+    otvori_pomoc();
+}
+
 }  // namespace
 
 void komanda_glavni(int index) {
@@ -50,6 +59,8 @@ void komanda_glavni(int index) {
       return EraseWord();
     case 5:
       return ShowOptions();
+    case 6:
+      return Help();
     default:
       return;
   }

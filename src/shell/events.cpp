@@ -6,11 +6,13 @@
 #include "display/grid_scroll.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
+#include "shell/browser_link.h"
 #include "shell/commands.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_help.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
+#include "shell/help.h"
 #include "shell/load_dialog.h"
 #include "shell/options_dialog.h"
 #include "shell/startup.h"
@@ -78,6 +80,12 @@ void BindMainForm(FrmGlavni& form) {
       unos_znaka(index, typed);
     };
   });
+  form.txt_rec1.Change = [] { zatvori_pomoc(); };
+  form.txt_rec1.DblClick = [] { zatvori_pomoc(); };
+  form.txt_rec1.KeyPress = [](int& character) {
+    character = 0;
+    zatvori_pomoc();
+  };
   BindMediaPane(form);
 }
 
@@ -101,6 +109,10 @@ void BindOptions(FrmOpcije& form) {
   });
 }
 
+void BindHelp(FrmHelp& form) {
+  form.Command1.Click = [&form] { pokreni_browser(form.txtURL.Text()); };
+}
+
 }  // namespace
 
 void BindEvents() {
@@ -110,6 +122,7 @@ void BindEvents() {
   };
   frm_ucit_snimi.Load = BindLoadDialog;
   frm_opcije.Load = BindOptions;
+  frm_help.Load = BindHelp;
 }
 
 void UnloadForms() {

@@ -102,6 +102,7 @@ FrmGlavni::FrmGlavni()
   pic_ukr.WheelMoves(scr_ver);
 
   txt_rec1.Flat();
+  txt_rec1.Lock();
   txt_rec1.FontName("Kalvon");
   txt_rec1.FontSize(11.25);
   txt_rec1.Visible(false);

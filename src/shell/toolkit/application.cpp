@@ -5,17 +5,16 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
 #include <csignal>
 
+#include "shell/toolkit/browser_host.h"
 #include "shell/toolkit/end_requests_p.h"
 #include "shell/toolkit/face_p.h"
 #include "shell/toolkit/form.h"
 #include "shell/toolkit/host_paths.h"
-#include "shell/toolkit/run_time_error.h"
 #include "shell/toolkit/window_handles_p.h"
 
 namespace toolkit {
@@ -128,12 +127,7 @@ void MsgBox(const std::string& text) {
   if (ended) throw ProgramEnd{};
 }
 
-void Shell(const std::string& command_line) {
-  QStringList words = QProcess::splitCommand(QString::fromStdString(command_line));
-  if (words.isEmpty()) throw RuntimeError(error::file_not_found);
-  const QString program = words.takeFirst();
-  if (!QProcess::startDetached(program, words)) throw RuntimeError(error::file_not_found);
-}
+void Shell(const std::string& command_line) { CurrentBrowserHost().Start(command_line); }
 
 int GetFocus() { return HandleOf(QApplication::focusWidget()); }
 

@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+#include "shell/toolkit/browser_host.h"
 #include "shell/toolkit/face_p.h"
 #include "shell/toolkit/key_codes_p.h"
 #include "shell/toolkit/run_time_error.h"
@@ -139,10 +140,10 @@ void TextBox::Align(Alignment alignment) {
 }
 
 void TextBox::LinkMode(int mode) {
-  if (mode != 0) throw RuntimeError(error::no_application_answered);
+  if (mode != 0) CurrentBrowserHost().Connect(link_topic_);
 }
 
-void TextBox::LinkRequest() { throw RuntimeError(error::no_application_answered); }
+void TextBox::LinkRequest() { CurrentBrowserHost().Request(link_item_); }
 
 void TextBox::FontChanged() {
   Control::FontChanged();

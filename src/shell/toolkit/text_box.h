@@ -41,8 +41,8 @@ class TextBox : public Control {
   /// 0 lets the box take no further action on the key. A KeyPress still follows.
   Event<int&, int> KeyDown;
 
-  // Link to another application. Nothing answers until one is attached: LinkMode then raises
-  // error 282.
+  // Link to another application: topic "SERVICE|topic", mode 2 for one that is asked. Setting the
+  // mode raises error 282 if no application answers.
   [[nodiscard]] const std::string& LinkTopic() const { return link_topic_; }
   void LinkTopic(const std::string& topic) { link_topic_ = topic; }
   [[nodiscard]] const std::string& LinkItem() const { return link_item_; }

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "shell/help.h"
+
+#include <initializer_list>
+
+#include "document/crossword_state.h"
+#include "shell/browser_link.h"
+#include "shell/forms/frm_glavni.h"
+#include "shell/forms/frm_help.h"
+#include "shell/toolkit/host_paths.h"
+
+namespace kalvon {
+
+namespace {
+
+void EnableCommands(std::initializer_list<int> commands, bool enabled) {
+  for (const int index : commands) frm_glavni->cmd_glavni(index).Enabled(enabled);
+}
+
+}  // namespace
+
+void OpenManual() {
+  frm_help->txtURL.Text(toolkit::LowerCase(glavni.app_staza) + "uputstvo\\pocetak.htm");
+  pokreni_browser(frm_help->txtURL.Text());
+}
+
+void otvori_pomoc() {
+  auto& form = *frm_glavni;
+  form.txt_rec1.Left(form.pic_ukr.Left());
+  form.txt_rec1.Top(form.pic_ukr.Top());
+  form.txt_rec1.Visible(true);
+  EnableCommands({0, 1, 3, 4, 5}, false);
+  glavni.pomoc_otvorena = 1;
+  form.txt_rec1.SetFocus();
+}
+
+void zatvori_pomoc() {
+  frm_glavni->txt_rec1.Visible(false);
+  if (glavni.pre_ucitavanja == 0) EnableCommands({1, 3, 4, 5}, true);
+  EnableCommands({0}, true);
+  glavni.pomoc_otvorena = 0;
+}
+
+}  // namespace kalvon
