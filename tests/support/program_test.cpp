@@ -47,6 +47,7 @@ void ProgramTest::Start() {
   language_under_test = language_;
   glavni = CrosswordState{};
   toolkit::App::Path(toolkit::LogicPath(folder_.string()));
+  toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();
   frm_glavni->Show();
   QApplication::setActiveWindow(Widget("frm_glavni"));
@@ -55,6 +56,7 @@ void ProgramTest::Start() {
 
 void ProgramTest::Stop() {
   UnloadForms();
+  toolkit::UseBrowserHost(nullptr);
   toolkit::Restart();
 }
 

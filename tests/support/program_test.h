@@ -12,6 +12,7 @@
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
+#include "support/scripted_browser.h"
 
 namespace kalvon::testing {
 
@@ -33,6 +34,9 @@ class ProgramTest : public ::testing::Test {
   void WriteFile(const std::string& name, const std::string& bytes) const;
   [[nodiscard]] std::string ReadFile(const std::string& name) const;
   void CopySample(const std::string& name) const;
+
+  /// The web browser of the system, which answers at once if a test does not say otherwise.
+  [[nodiscard]] BrowserScript& browser() { return browser_; }
 
   /// Opens the dialog, clicks the file in its list and presses the button to go on.
   void Load(const std::string& name);
@@ -64,6 +68,7 @@ class ProgramTest : public ::testing::Test {
   static void Stop();
 
   std::filesystem::path folder_;
+  BrowserScript browser_;
   int language_;
 };
 

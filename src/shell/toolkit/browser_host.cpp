@@ -18,6 +18,9 @@ namespace {
 constexpr std::uint32_t plain_string = 1;
 constexpr QLatin1String link_topic_name("WWW_OpenURL");
 
+/// The field codes of a desktop entry that stand for what is to be opened.
+constexpr QLatin1String files_to_open("uUfF");
+
 struct Unreference {
   void operator()(gpointer object) const { g_object_unref(object); }
 };
@@ -26,10 +29,47 @@ using Browser = std::unique_ptr<GAppInfo, Unreference>;
 /// The application that the desktop opens web pages with; none if it is not installed.
 Browser DefaultBrowser() { return Browser(g_app_info_get_default_for_uri_scheme("http")); }
 
-/// The command line of its desktop entry, without the places of the files to open.
 QString CommandLine(GAppInfo* browser) {
-  static const QRegularExpression field_code(QStringLiteral(R"(\s*%[a-zA-Z])"));
-  return QString::fromUtf8(g_app_info_get_commandline(browser)).remove(field_code);
+  return QString::fromUtf8(g_app_info_get_commandline(browser));
+}
+
+/// The words of a command line, quoted as desktop entries do it. Nothing is put in for variables or
+/// commands. None for a line whose quotes do not close.
+QStringList Words(const QString& command_line) {
+  QStringList words;
+  gchar** parsed = nullptr;
+  if (!g_shell_parse_argv(command_line.toUtf8().constData(), nullptr, &parsed, nullptr))
+    return words;
+  for (gchar** word = parsed; *word != nullptr; ++word) words << QFile::decodeName(*word);
+  g_strfreev(parsed);
+  return words;
+}
+
+/// A word with the address in the place of the files to open. Other field codes are dropped.
+QString Filled(const QString& word, const QString& address) {
+  static const QRegularExpression field_code(QStringLiteral("%([a-zA-Z%])"));
+  QString filled;
+  qsizetype end = 0;
+  for (const QRegularExpressionMatch& code : field_code.globalMatch(word)) {
+    filled += word.mid(end, code.capturedStart() - end);
+    const QChar letter = code.capturedView(1).front();
+    if (files_to_open.contains(letter)) filled += address;
+    if (letter == u'%') filled += letter;
+    end = code.capturedEnd();
+  }
+  return filled + word.mid(end);
+}
+
+/// Starts a program of a desktop entry on an address, or with an empty one on nothing, and does not
+/// wait. False if it could not be started.
+bool StartProgram(const QString& command_line, const QString& address) {
+  QStringList words = Words(command_line);
+  for (QString& word : words) word = Filled(word, address);
+  words.removeAll(QString());
+  if (words.isEmpty()) return false;
+  if (!address.isEmpty() && words.filter(address).isEmpty()) words << address;
+  const QString program = words.takeFirst();
+  return QProcess::startDetached(program, words);
 }
 
 /// The name of its desktop entry.
@@ -40,11 +80,11 @@ QString Service(GAppInfo* browser) {
 }
 
 /// The address of a page: a path of the logic becomes a `file:` address, others stay.
-QByteArray PageAddress(const std::string& address) {
+QString PageAddress(const std::string& address) {
   const bool is_path = address.size() > 2 && address.compare(1, 2, ":\\") == 0;
   const QUrl url = is_path ? QUrl::fromLocalFile(QFile::decodeName(HostPath(address).c_str()))
                            : QUrl(QString::fromStdString(address));
-  return url.toEncoded();
+  return QString::fromLatin1(url.toEncoded());
 }
 
 /// A freedesktop system. The browser's desktop entry stands for the values of the registry, and
@@ -71,18 +111,15 @@ class DesktopBrowserHost : public BrowserHost {
   }
 
   void Request(const std::string& link_item) override {
-    // The address stands before two empty fields of the item; it may hold commas itself.
-    QByteArray address = PageAddress(link_item.substr(0, link_item.rfind(",,")));
-    GList addresses{address.data(), nullptr, nullptr};
-    if (!browser_ || !g_app_info_launch_uris(browser_.get(), &addresses, nullptr, nullptr))
+    // The address stands before two further fields of the item; it may hold commas itself.
+    const QString address = PageAddress(link_item.substr(0, link_item.rfind(",,")));
+    if (!browser_ || !StartProgram(CommandLine(browser_.get()), address))
       throw RuntimeError(error::link_refused);
   }
 
   void Start(const std::string& command_line) override {
-    QStringList words = QProcess::splitCommand(QString::fromStdString(command_line));
-    if (words.isEmpty()) throw RuntimeError(error::file_not_found);
-    const QString program = words.takeFirst();
-    if (!QProcess::startDetached(program, words)) throw RuntimeError(error::file_not_found);
+    if (!StartProgram(QString::fromStdString(command_line), {}))
+      throw RuntimeError(error::file_not_found);
   }
 
  private:

@@ -26,8 +26,8 @@ class BrowserHost {
   virtual void Connect(const std::string& link_topic) = 0;
   /// Asks for an item of that conversation. Error 285 if it is refused.
   virtual void Request(const std::string& link_item) = 0;
-  /// Starts a program from a command line, without waiting and without a shell in between. Error 53
-  /// if it cannot be started.
+  /// Starts a program from a command line, with the quotes and field codes of a desktop entry, and
+  /// does not wait. No shell stands in between. Error 53 if it cannot be started.
   virtual void Start(const std::string& command_line) = 0;
 };
 

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "shell/toolkit/browser_host.h"
+#include "shell/toolkit/run_time_error.h"
+
+namespace kalvon::testing {
+
+/// A browser that does what a test writes down, and writes down what it is asked.
+struct BrowserScript {
+  std::map<std::string, toolkit::RegistryValue> registry = {
+      {R"(http\shell\open\command)", {1, "citac --novi"}},
+      {R"(http\shell\open\ddeexec\Application)", {1, "Citac"}},
+      {R"(http\shell\open\ddeexec\Topic)", {1, "WWW_OpenURL"}}};
+  /// The errors of the next calls, 0 for success; after the last one its error stays.
+  std::vector<int> connect_errors = {0};
+  std::vector<int> request_errors = {0};
+  int start_error = 0;
+
+  /// The calls in their order: "connect TOPIC", "request ITEM", "start COMMAND".
+  std::vector<std::string> calls = {};
+};
+
+class ScriptedBrowser : public toolkit::BrowserHost {
+ public:
+  explicit ScriptedBrowser(BrowserScript& script) : script_(script) {}
+
+  std::optional<toolkit::RegistryValue> Read(const std::string& key_path) override {
+    const auto found = script_.registry.find(key_path);
+    if (found == script_.registry.end()) return std::nullopt;
+    return found->second;
+  }
+  void Connect(const std::string& link_topic) override {
+    Answer("connect " + link_topic, script_.connect_errors);
+  }
+  void Request(const std::string& link_item) override {
+    Answer("request " + link_item, script_.request_errors);
+  }
+  void Start(const std::string& command_line) override {
+    script_.calls.push_back("start " + command_line);
+    if (script_.start_error != 0) throw toolkit::RuntimeError(script_.start_error);
+  }
+
+ private:
+  void Answer(const std::string& call, std::vector<int>& errors) {
+    script_.calls.push_back(call);
+    const int error = errors.front();
+    if (errors.size() > 1) errors.erase(errors.begin());
+    if (error != 0) throw toolkit::RuntimeError(error);
+  }
+
+  BrowserScript& script_;
+};
+
+}  // namespace kalvon::testing
