@@ -3,9 +3,11 @@
 
 #include <gio/gio.h>
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QUrl>
+#include <span>
 #include <utility>
 
 #include "shell/toolkit/host_paths.h"
@@ -36,11 +38,13 @@ QString CommandLine(GAppInfo* browser) {
 /// The words of a command line, quoted as desktop entries do it. Nothing is put in for variables or
 /// commands. None for a line whose quotes do not close.
 QStringList Words(const QString& command_line) {
-  QStringList words;
+  gint count = 0;
   gchar** parsed = nullptr;
-  if (!g_shell_parse_argv(command_line.toUtf8().constData(), nullptr, &parsed, nullptr))
-    return words;
-  for (gchar** word = parsed; *word != nullptr; ++word) words << QFile::decodeName(*word);
+  if (g_shell_parse_argv(command_line.toUtf8().constData(), &count, &parsed, nullptr) == FALSE)
+    return {};
+  QStringList words;
+  for (const gchar* word : std::span(parsed, static_cast<std::size_t>(count)))
+    words << QFile::decodeName(word);
   g_strfreev(parsed);
   return words;
 }

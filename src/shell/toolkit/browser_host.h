@@ -10,7 +10,7 @@ namespace toolkit {
 
 /// A value of the registry. Type 1 is a plain string.
 struct RegistryValue {
-  std::uint32_t type;
+  std::uint32_t type = 0;
   std::string data;
 };
 

@@ -40,11 +40,11 @@ class BrowserHostTest : public ::testing::Test {
     std::ofstream(Defaults())
         << "[Default Applications]\nx-scheme-handler/http=moj-citac.desktop\n";
     // What was looked up before is forgotten a moment after the folders have changed.
-    ASSERT_TRUE(QTest::qWaitFor([] { return Read("ddeexec\\Application") == "moj-citac"; }));
+    ASSERT_TRUE(QTest::qWaitFor([] { return Read(R"(ddeexec\Application)") == "moj-citac"; }));
   }
 
   static std::string Read(const std::string& key) {
-    const auto value = CurrentBrowserHost().Read("http\\shell\\open\\" + key);
+    const auto value = CurrentBrowserHost().Read(R"(http\shell\open\)" + key);
     return value && value->type == 1 ? value->data : "";
   }
 
@@ -70,14 +70,14 @@ class BrowserHostTest : public ::testing::Test {
 
 TEST_F(BrowserHostTest, ReadsTheDefaultBrowsersDesktopEntry) {
   EXPECT_EQ(Read("command"), '"' + folder_.Host("moj citac") + "\" --novi %u");
-  EXPECT_EQ(Read("ddeexec\\Application"), "moj-citac");
-  EXPECT_NE(Read("ddeexec\\Topic"), "");
+  EXPECT_EQ(Read(R"(ddeexec\Application)"), "moj-citac");
+  EXPECT_NE(Read(R"(ddeexec\Topic)"), "");
   EXPECT_EQ(Read("ddeexec"), "");
 }
 
 TEST_F(BrowserHostTest, AnswersByItsNameAlone) {
   auto& host = CurrentBrowserHost();
-  const std::string topic = "|" + Read("ddeexec\\Topic");
+  const std::string topic = "|" + Read(R"(ddeexec\Topic)");
   EXPECT_EQ(pass_over([&] { host.Connect("MOJ-CITAC" + topic); }), 0);
   for (const char* name : {"|", "NEMA|WWW_OpenURL", "MOJ-CITAC", "MOJ-CITAC|"})
     EXPECT_EQ(pass_over([&] { host.Connect(name); }), error::no_application_answered) << name;
@@ -87,7 +87,7 @@ TEST_F(BrowserHostTest, OpensEachPageOnceByItsRealPathAndStartsNothingElse) {
   const std::string names[] = {"obican.htm", "Razmak i VELIKA.htm", "čćšžđ ћ.htm", "a,,b%20#?.htm",
                                "\"$(touch x)`touch x`\";touch x;'.htm"};
   auto& host = CurrentBrowserHost();
-  host.Connect("MOJ-CITAC|" + Read("ddeexec\\Topic"));
+  host.Connect("MOJ-CITAC|" + Read(R"(ddeexec\Topic)"));
   int opened = 0;
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
@@ -117,7 +117,7 @@ TEST_F(BrowserHostTest, StartsAProgramWithoutAShell) {
 
 TEST_F(BrowserHostTest, ABrowserThatIsGoneRefuses) {
   auto& host = CurrentBrowserHost();
-  host.Connect("MOJ-CITAC|" + Read("ddeexec\\Topic"));
+  host.Connect("MOJ-CITAC|" + Read(R"(ddeexec\Topic)"));
   fs::remove(folder_.Host("moj citac"));
   EXPECT_EQ(pass_over([&] { host.Request("about:blank,,-1"); }), error::link_refused);
 }
