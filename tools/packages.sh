@@ -39,9 +39,12 @@ virtual_display_packages=(
 )
 
 lint_packages=(
+  appstream
   clang-format
   clang-tidy
   cppcheck
+  desktop-file-utils
+  libxml2-utils
   shellcheck
 )
 
