@@ -5,6 +5,7 @@
 #include "document/crossword_state.h"
 #include "document/settings.h"
 #include "multimedia/media_pane.h"
+#include "shell/english_captions.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
@@ -62,7 +63,6 @@ void ChooseFont() {
   auto& form = *frm_glavni;
   form.txt_media.ForEach([](auto& box) { box.FontName(glavni.font_ime); });
   form.txt_rec.ForEach([](auto& box) { box.FontName(glavni.font_ime); });
-  if (english) form.txt_rec1.FontName(glavni.font_ime);
 }
 
 void Start() {
@@ -80,6 +80,7 @@ void Start() {
   ucitaj_ini();
   glavni.pomoc_otvorena = 0;
   ChooseFont();
+  if (glavni.jezik == 1) WriteEnglishCaptions();
   glavni.forma_sirina = frm_glavni->Width();
   glavni.forma_visina = frm_glavni->Height();
 }

@@ -133,18 +133,5 @@ TEST_F(StartupTest, ACommandThatDoesNotExistDoesNothing) {
   EXPECT_FALSE(frm_ucit_snimi->Visible());
 }
 
-class EnglishStartupTest : public ProgramTest {
- protected:
-  EnglishStartupTest() : ProgramTest(1) {}
-};
-
-TEST_F(EnglishStartupTest, HasItsOwnFontAlphabetAndOptions) {
-  EXPECT_EQ(glavni.font_ime, "MS Sans Serif");
-  EXPECT_EQ(glavni.azbuka, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-  EXPECT_FALSE(frm_opcije->frm_opcije(2).Visible());
-  EXPECT_EQ(frm_opcije->Height(), 6915 - 1395);
-  EXPECT_EQ(frm_opcije->frm_opcije(0).Top(), 60);
-}
-
 }  // namespace
 }  // namespace kalvon::testing
