@@ -22,7 +22,7 @@ Press Load. A window opens with a list of drives, a list of folders and a list o
 
 A crossword is a file whose name ends in "qvm". When its pictures, sounds and videos come with it, they stand in a file of the same name that ends in "qvd". Keep both in the same folder.
 
-Some large crosswords come in installments: files whose names end in three digits, such as "autumn001.qvm" and "autumn002.qvm". Put those that you have into one folder and load any of them. The program finds the others by their numbers and joins them into one grid, side by side or one below the other. A missing installment leaves black squares in its place; when you get it later, put it there too and load the crossword again.
+Some large crosswords come in installments: files whose names are the same five characters and a number of three digits, such as "frost001.qvm" and "frost002.qvm". Put those that you have into one folder and load any of them. The program finds the others by their numbers and joins them into one grid, side by side or one below the other. A missing installment leaves black squares in its place; when you get it later, put it there too and load the crossword again.
 
 A crossword that cannot be read does not load, without a message.
 

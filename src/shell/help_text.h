@@ -5,7 +5,8 @@
 
 namespace kalvon {
 
-/// The text of the help panel of the English program, a paragraph a line. Lines are closed by CR LF.
+/// The text of the help panel of the English program, a paragraph a line. Lines are closed by CR
+/// LF.
 std::string HelpText();
 
 }  // namespace kalvon
