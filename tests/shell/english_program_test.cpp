@@ -67,19 +67,39 @@ TEST_F(EnglishProgramTest, OptionsStandInTheirFramesAndBesideTheCount) {
             "Across, Down");
 }
 
-TEST_F(EnglishProgramTest, LettersAreTypedSavedAndReadAgain) {
-  CopySample("proba.qvm");
-  Load("proba.qvm");
-  ClickPicture("pic_tekst(0)", 40, 7);
-  Type("xyq");
+TEST_F(EnglishProgramTest, ACrosswordOfAllLettersIsSolvedByKeysAndSaved) {
+  CopySample("equinox.qvm");
+  const std::string unsolved = ReadFile("equinox.qvm");
+  Load("equinox.qvm");
+  ClickPicture("pic_tekst(1)", 40, 7);
+  Type("wishful");
   PressKey(Qt::Key_Return);
-  EXPECT_EQ(glavni.rec_tekst, "XYQ");
+  ClickCell(3, 1);
+  ClickCell(3, 1);
+  Type("EQUINOX");
+  EXPECT_EQ(glavni.rec_tekst, "_______") << "capitals are no keys";
+  Type("equinox");
+  PressKey(Qt::Key_Return);
+  ClickButton("cmd_glavni(5)");
+  ClickButton("cmd_opcije(4)");
+  EXPECT_EQ(frm_opcije->Label2.Caption(), "0");
+  ClickButton("cmd_opcije(3)");
+  ClickButton("cmd_opcije(0)");
   ClickButton("cmd_glavni(1)");
   Restart();
-  Load("proba.qvm");
-  EXPECT_EQ(glavni.rec_tekst, "XYQ");
-  EXPECT_TRUE(frm_opcije->opt_opcije(1).Value() && frm_opcije->opt_opcije1(0).Value())
-      << "Latin letters on the plain keyboard";
+  Load("equinox.qvm");
+  EXPECT_EQ(glavni.rec_tekst, "WHERE");
+
+  int letters = 0;
+  for (int y = 1; y <= 13; ++y) {
+    for (int x = 1; x <= 13; ++x) {
+      const std::string& cell = std::as_const(glavni).ukr_polja(x, y, 1);
+      if (cell.front() == '$') continue;
+      ++letters;
+      EXPECT_EQ(cell[0], cell[1]) << x << ',' << y;
+    }
+  }
+  EXPECT_EQ(ReadFile("equinox.qvm").size(), unsolved.size() + static_cast<unsigned>(letters));
 }
 
 class HelpPanelTest : public EnglishProgramTest {

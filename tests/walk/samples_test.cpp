@@ -9,14 +9,21 @@
 namespace kalvon::testing {
 namespace {
 
-/// Goes through a sample crossword from end to end.
-class SamplesTest : public ProgramTest, public ::testing::WithParamInterface<const char*> {
+struct Sample {
+  const char* file;
+  int language;
+};
+
+/// Goes through a sample crossword from end to end, in the program of its language.
+class SamplesTest : public ProgramTest, public ::testing::WithParamInterface<Sample> {
  protected:
+  SamplesTest() : ProgramTest(GetParam().language) {}
+
   void SetUp() override {
     ProgramTest::SetUp();
     for (const auto& sample : std::filesystem::directory_iterator(SAMPLES_FOLDER))
       if (sample.path().extension() != ".md") CopySample(sample.path().filename().string());
-    Load(GetParam());
+    Load(GetParam().file);
     invariants_.TakeCrossword();
   }
 
@@ -90,10 +97,11 @@ TEST_P(SamplesTest, ASaveWithoutASolvedLetterChangesNoByte) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, SamplesTest,
-                         ::testing::Values("proba.qvm", "velika.qvm", "zima1002.qvm",
-                                           "leto1003.qvm"),
+                         ::testing::Values(Sample{"proba.qvm", 0}, Sample{"velika.qvm", 0},
+                                           Sample{"zima1002.qvm", 0}, Sample{"leto1003.qvm", 0},
+                                           Sample{"equinox.qvm", 1}),
                          [](const auto& sample) {
-                           const std::string name = sample.param;
+                           const std::string name = sample.param.file;
                            return name.substr(0, name.find('.'));
                          });
 
