@@ -38,11 +38,17 @@ virtual_display_packages=(
   xvfb
 )
 
+screenshot_packages=(
+  imagemagick
+  xdotool
+)
+
 lint_packages=(
   clang-format
   clang-tidy
   cppcheck
   shellcheck
+  tidy
 )
 
 # What could not be looked up, on a system whose packages have other names.

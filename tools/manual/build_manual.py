@@ -94,9 +94,9 @@ def page_order(contents):
 
 
 def neighbour_link(relation, name, pages):
-    """A link of the navigation; at an end of the manual there is only its place."""
+    """A link of the navigation, or nothing at an end of the manual."""
     if name is None:
-        return "<span></span>"
+        return ""
     label = html.escape(heading(pages[name]))
     arrows = {"prev": f"← {label}", "next": f"{label} →"}
     return f'<a rel="{relation}" href="{name}">{arrows[relation]}</a>'
