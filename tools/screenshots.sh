@@ -120,7 +120,8 @@ select_down() {
   press_cell "$1" "$2"
 }
 
-# Words across, as they are typed under YU ASCII: column and row of the first cell, letters.
+# Words across, as they are typed under YU ASCII: column and row of the first cell, letters. None
+# begins in the word before it, which would turn the direction.
 solve_half() {
   local column row letters i key names
   while read -r column row letters; do
@@ -163,7 +164,6 @@ take_loading_solving_and_options() {
   choose_crossword velika.qvm
   picture ucitavanje
   load_chosen
-  press_cell 2 1
   solve_half
   select_down 7 5
   picture resavanje
