@@ -38,6 +38,11 @@ virtual_display_packages=(
   xvfb
 )
 
+screenshot_packages=(
+  imagemagick
+  xdotool
+)
+
 lint_packages=(
   appstream
   clang-format
@@ -46,6 +51,7 @@ lint_packages=(
   desktop-file-utils
   libxml2-utils
   shellcheck
+  tidy
 )
 
 # What could not be looked up, on a system whose packages have other names.
