@@ -27,7 +27,7 @@ class PushButton : public QPushButton {
 }  // namespace
 
 Button::Button(Container& parent, const ControlSheet& sheet)
-    : Control(parent, sheet, std::make_unique<PushButton>()) {
+    : CaptionedControl(parent, sheet, std::make_unique<PushButton>()) {
   auto* button = static_cast<QPushButton*>(widget());
   button->setAutoDefault(false);
   // A press by its Alt key letter lasts a moment, in which another command may have disabled or
@@ -40,11 +40,6 @@ Button::Button(Container& parent, const ControlSheet& sheet)
   Caption(sheet.caption);
 }
 
-void Button::Caption(const std::string& caption) {
-  caption_ = caption;
-  ShowCaption();
-}
-
 void Button::Default() {
   auto* button = static_cast<QPushButton*>(widget());
   for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -53,24 +48,14 @@ void Button::Default() {
   }
 }
 
-void Button::FontChanged() {
-  Control::FontChanged();
-  ShowCaption();
-}
-
 void Button::ShowCaption() {
-  static_cast<QPushButton*>(widget())->setText(CaptionWithMnemonic(caption_, FaceInUse()));
+  static_cast<QPushButton*>(widget())->setText(CaptionWithMnemonic(Caption(), FaceInUse()));
 }
 
 OptionButton::OptionButton(Container& parent, const ControlSheet& sheet)
-    : Control(parent, sheet, std::make_unique<QRadioButton>()) {
+    : CaptionedControl(parent, sheet, std::make_unique<QRadioButton>()) {
   StopTabHere();
   Caption(sheet.caption);
-}
-
-void OptionButton::Caption(const std::string& caption) {
-  caption_ = caption;
-  ShowCaption();
 }
 
 bool OptionButton::Value() const { return static_cast<QRadioButton*>(widget())->isChecked(); }
@@ -83,13 +68,8 @@ void OptionButton::Value(bool selected) {
   button->setAutoExclusive(true);
 }
 
-void OptionButton::FontChanged() {
-  Control::FontChanged();
-  ShowCaption();
-}
-
 void OptionButton::ShowCaption() {
-  static_cast<QRadioButton*>(widget())->setText(CaptionWithMnemonic(caption_, FaceInUse()));
+  static_cast<QRadioButton*>(widget())->setText(CaptionWithMnemonic(Caption(), FaceInUse()));
 }
 
 }  // namespace toolkit

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
-#include "shell/toolkit/control.h"
+#include "shell/toolkit/captioned_control.h"
 
 namespace toolkit {
 
 /// A push button. An "&" in the caption marks the Alt key letter and is not shown.
-class Button : public Control {
+class Button : public CaptionedControl {
  public:
   Button(Container& parent, const ControlSheet& sheet);
-
-  [[nodiscard]] const std::string& Caption() const { return caption_; }
-  void Caption(const std::string& caption);
 
   /// Enter presses this button wherever the focus is in the form.
   void Default();
@@ -21,33 +16,20 @@ class Button : public Control {
   Event<> Click;
 
  protected:
-  void FontChanged() override;
-
- private:
-  void ShowCaption();
-
-  std::string caption_;
+  void ShowCaption() override;
 };
 
 /// An option button. The buttons of one frame form a group, of which one is selected.
-class OptionButton : public Control {
+class OptionButton : public CaptionedControl {
  public:
   OptionButton(Container& parent, const ControlSheet& sheet);
-
-  [[nodiscard]] const std::string& Caption() const { return caption_; }
-  void Caption(const std::string& caption);
 
   /// Whether this button is the selected one; selecting it clears the others of its group.
   [[nodiscard]] bool Value() const;
   void Value(bool selected);
 
  protected:
-  void FontChanged() override;
-
- private:
-  void ShowCaption();
-
-  std::string caption_;
+  void ShowCaption() override;
 };
 
 }  // namespace toolkit

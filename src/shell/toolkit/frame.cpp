@@ -8,22 +8,12 @@
 namespace toolkit {
 
 Frame::Frame(Container& parent, const ControlSheet& sheet)
-    : Control(parent, sheet, std::make_unique<QGroupBox>()) {
+    : CaptionedControl(parent, sheet, std::make_unique<QGroupBox>()) {
   Caption(sheet.caption);
 }
 
-void Frame::Caption(const std::string& caption) {
-  caption_ = caption;
-  ShowCaption();
-}
-
-void Frame::FontChanged() {
-  Control::FontChanged();
-  ShowCaption();
-}
-
 void Frame::ShowCaption() {
-  static_cast<QGroupBox*>(widget())->setTitle(CaptionWithMnemonic(caption_, FaceInUse()));
+  static_cast<QGroupBox*>(widget())->setTitle(CaptionWithMnemonic(Caption(), FaceInUse()));
 }
 
 }  // namespace toolkit

@@ -23,7 +23,7 @@ Qt::Alignment HostAlignment(Alignment alignment) {
 }  // namespace
 
 Label::Label(Container& parent, const ControlSheet& sheet)
-    : Control(parent, sheet, std::make_unique<QLabel>()) {
+    : CaptionedControl(parent, sheet, std::make_unique<QLabel>()) {
   auto* label = static_cast<QLabel*>(widget());
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
@@ -31,16 +31,10 @@ Label::Label(Container& parent, const ControlSheet& sheet)
   Caption(sheet.caption);
 }
 
-void Label::Caption(const std::string& caption) {
-  if (caption == caption_) return;
-  caption_ = caption;
-  Show();
-}
-
 void Label::AutoSize(bool auto_size) {
   auto_size_ = auto_size;
   static_cast<QLabel*>(widget())->setWordWrap(!auto_size);
-  Show();
+  ShowCaption();
 }
 
 void Label::Align(Alignment alignment) {
@@ -54,18 +48,13 @@ void Label::Boxed() {
   label->setBackgroundRole(QPalette::Base);
 }
 
-void Label::FontChanged() {
-  Control::FontChanged();
-  Show();
-}
-
-void Label::Show() {
+void Label::ShowCaption() {
   // No label has room for more, and laying out an endless line takes seconds.
   constexpr std::size_t characters_at_most = 4000;
   Face& face = FaceInUse();
-  if (auto_size_) TakeSize(face.LayOut(caption_).width, face.LineHeight());
+  if (auto_size_) TakeSize(face.LayOut(Caption()).width, face.LineHeight());
   static_cast<QLabel*>(widget())->setText(
-      face.Shown(caption_.substr(0, characters_at_most)).replace(u'\r', u'\n'));
+      face.Shown(Caption().substr(0, characters_at_most)).replace(u'\r', u'\n'));
 }
 
 }  // namespace toolkit

@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
-#include "shell/toolkit/control.h"
+#include "shell/toolkit/captioned_control.h"
 
 namespace toolkit {
 
 /// A text that the user cannot change. A CR breaks the line; a longer text wraps and is cut at the
 /// label's height.
-class Label : public Control {
+class Label : public CaptionedControl {
  public:
   Label(Container& parent, const ControlSheet& sheet);
-
-  [[nodiscard]] const std::string& Caption() const { return caption_; }
-  void Caption(const std::string& caption);
 
   /// The label takes the size of its caption, at once.
   [[nodiscard]] bool AutoSize() const { return auto_size_; }
@@ -25,12 +20,9 @@ class Label : public Control {
   void Boxed();
 
  protected:
-  void FontChanged() override;
+  void ShowCaption() override;
 
  private:
-  void Show();
-
-  std::string caption_;
   bool auto_size_ = false;
 };
 
