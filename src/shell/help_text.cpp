@@ -28,7 +28,7 @@ A crossword that cannot be read does not load, without a message.
 
 2. Solving crosswords
 
-On the left stand the clues, Across above and Down below. On the right stands the grid, of which you see up to 15 by 15 cells; the scroll bars move the rest into sight, and so does the mouse wheel. The numbers along the edges of the grid count its columns and rows.
+On the left stand the clues, Across above and Down below. On the right stands the grid, of which you see up to 15 by 15 cells; the scroll bars move the rest into sight, and so does the mouse wheel. Along the edges of the grid stand the last digits of the numbers of its columns and rows.
 
 To choose a word, click one of its cells, or click its clue in a list. The chosen word and its clue are marked, and the grid moves if the word is out of sight. A second click on the chosen word in the grid turns to the word that crosses it there.
 
