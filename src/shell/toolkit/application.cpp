@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QThread>
 #include <csignal>
 
 #include "shell/toolkit/browser_host.h"
@@ -107,7 +108,8 @@ int Application::Run() {
 
 void End() {
   ended = true;
-  QApplication::exit(0);
+  // Without a loop to leave, the host would leave the next one at once.
+  if (QThread::currentThread()->loopLevel() > 0) QApplication::exit(0);
   throw ProgramEnd{};
 }
 

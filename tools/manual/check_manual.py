@@ -2,13 +2,15 @@
 # SPDX-License-Identifier: MIT
 """Checks the built manual.
 
-    manual_check.py FOLDER
+    check_manual.py FOLDER SAMPLES
 
 Every link, picture and fragment leads to something inside the manual, every page is listed in the
-contents of its script and has its twin in the other, every picture is used and has a text, and no
-Latin letter is left in Cyrillic text. Prints file:line for each fault and fails if there is one.
+contents of its script and has its twin in the other, every picture is used and has a text, no Latin
+letter is left in Cyrillic text, and the crossword that the manual prints is the sample of that name.
+Prints file:line for each fault and fails if there is one.
 """
 
+import html
 import pathlib
 import re
 import sys
@@ -18,6 +20,7 @@ from typing import NamedTuple
 CONTENTS = "pocetak.htm"
 CYRILLIC_FOLDER = "cirilica"
 KEEPS_SCRIPT = {"code", "kbd", "samp", "style"}
+EXAMPLE = re.compile(r'<pre id="proba"><code>(.*?)</code>', re.DOTALL)
 VOID = {"br", "col", "hr", "img", "link", "meta", "wbr"}
 LATIN_LETTER = re.compile(r"[A-Za-zĐđŽžĆćČčŠš]")
 
@@ -119,7 +122,16 @@ def listing_faults(page, pages):
         yield 1, f"has the language {page.language}"
 
 
-def check(folder):
+def example_faults(folder, sample):
+    """The pages on the file format print the sample, line by line."""
+    lines = sample.read_bytes().decode("ascii").splitlines()
+    for page in ("datoteka.htm", f"{CYRILLIC_FOLDER}/datoteka.htm"):
+        printed = EXAMPLE.search((folder / page).read_text(encoding="utf-8"))
+        if printed is None or html.unescape(printed.group(1)).splitlines() != lines:
+            yield f"{page}:1: does not print the sample {sample.name}"
+
+
+def check(folder, samples):
     """All faults, as lines of the form file:line: text."""
     folder = folder.resolve()
     pages = {path: Page(path) for path in sorted(folder.rglob("*.htm"))}
@@ -133,13 +145,13 @@ def check(folder):
     used = set().union(*map(targets_of, pages.values()))
     unused = [path for path in sorted(folder.rglob("*.png")) if path not in used]
     found += [f"{path.relative_to(folder)}:1: no page shows it" for path in unused]
-    return found
+    return [*found, *example_faults(folder, samples / "proba.qvm")]
 
 
 def main():
-    if len(sys.argv) != 2:
+    if len(sys.argv) != 3:
         sys.exit(__doc__)
-    faults = check(pathlib.Path(sys.argv[1]))
+    faults = check(*map(pathlib.Path, sys.argv[1:]))
     for line in faults:
         print(line)
     if faults:
