@@ -7,13 +7,13 @@
 #include <stdexcept>
 
 #include "document/crossword_state.h"
+#include "files/host_paths.h"
 #include "shell/events.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/load_dialog.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -53,7 +53,7 @@ BenchProgram::BenchProgram() {
   made.setAutoRemove(false);
   folder_ = made.path().toStdString();
   glavni = CrosswordState{};
-  toolkit::App::Path(toolkit::LogicPath(folder_.string()));
+  toolkit::App::Path(files::LogicPath(folder_.string()));
   BindEvents();
   frm_glavni->Show();
 }
@@ -69,12 +69,12 @@ void BenchProgram::Write(const std::string& name, const std::string& bytes) cons
 }
 
 void BenchProgram::Choose(const std::string& name) const {
-  auto& files = frm_ucit_snimi->File1;
-  if (files.ListCount() == 0) files.Path(toolkit::LogicPath(folder_.string()));
+  auto& list = frm_ucit_snimi->File1;
+  if (list.ListCount() == 0) list.Path(files::LogicPath(folder_.string()));
   otvori_dijalog(0);
-  for (int row = 0; row < files.ListCount(); ++row) {
-    if (files.List(row) != name) continue;
-    files.ListIndex(row);
+  for (int row = 0; row < list.ListCount(); ++row) {
+    if (list.List(row) != name) continue;
+    list.ListIndex(row);
     return;
   }
   throw std::runtime_error("no such crossword: " + name);

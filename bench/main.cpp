@@ -14,7 +14,7 @@
 
 #include "shell/events.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace {
 

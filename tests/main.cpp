@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <cstdlib>
 
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

@@ -83,7 +83,7 @@ void klik_pitanje(int index, int button, double /*x*/, double y) {
   const auto clue = TakeClickedClue(strana, red);
   if (!clue) {
     // The box cannot take the focus while the form is disabled.
-    toolkit::pass_over([] { frm_glavni->txt_rec(0).SetFocus(); });
+    files::pass_over([] { frm_glavni->txt_rec(0).SetFocus(); });
     return;
   }
   const int x1 = std::as_const(glavni).pitanja(clue->number, 2);

@@ -11,7 +11,7 @@
 
 namespace kalvon {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 namespace {
 

@@ -13,7 +13,7 @@
 
 namespace kalvon {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 namespace {
 

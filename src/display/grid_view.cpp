@@ -12,7 +12,7 @@
 
 namespace kalvon {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 namespace {
 

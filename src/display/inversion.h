@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/toolkit/picture_box.h"
+#include "shell/toolkit/input/picture_box.h"
 
 namespace kalvon {
 

@@ -19,11 +19,11 @@
 #include "document/installment_reading.h"
 #include "document/installments.h"
 #include "document/load_progress.h"
+#include "files/host_paths.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
+#include "shell/toolkit/windows/application.h"
 #include "solving/letter_boxes.h"
 
 namespace kalvon {
@@ -50,7 +50,7 @@ std::vector<std::string> FilesOfFolder() {
 }
 
 Header HeaderOf(const std::string& path) {
-  toolkit::TextReader file(path);
+  files::TextReader file(path);
   return ReadHeader(file);
 }
 
@@ -183,7 +183,7 @@ void Load() {
   const std::vector<std::string> folder = FilesOfFolder();
   const Installments installments = FindInstallments(frm_ucit_snimi->txt_ucit.Text(), folder);
   // The files are reached by their names on the disk: another one may differ only in capitals.
-  const std::string chosen = std::exchange(glavni.ukr_staza, toolkit::LowerCase(glavni.ukr_staza));
+  const std::string chosen = std::exchange(glavni.ukr_staza, files::LowerCase(glavni.ukr_staza));
   const Header header = HeaderOf(chosen);
   const int joined = JoinOf(header);
 
@@ -205,8 +205,8 @@ void Load() {
 void ShowUnselected() {
   if (glavni.pre_ucitavanja == 1) return;  // The title picture stays.
   glavni.sel_broj = 0;
-  toolkit::pass_over([] { crtaj_ukrstenicu(); });
-  toolkit::pass_over([] { oznaci_rec(0); });
+  files::pass_over([] { crtaj_ukrstenicu(); });
+  files::pass_over([] { oznaci_rec(0); });
 }
 
 }  // namespace
@@ -214,10 +214,10 @@ void ShowUnselected() {
 void ucitaj_ukrstenicu() {
   try {
     Load();
-  } catch (const toolkit::RuntimeError&) {
+  } catch (const files::RuntimeError&) {
     // A load that gave up before it replaced the grid leaves the crossword in it, which goes on
     // being saved into its own files.
-    glavni.ukr_staza = toolkit::LowerCase(glavni.ukr_ucitana);
+    glavni.ukr_staza = files::LowerCase(glavni.ukr_ucitana);
     ShowUnselected();
   }
   toolkit::Screen::MousePointer(0);

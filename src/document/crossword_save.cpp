@@ -6,14 +6,14 @@
 
 #include "document/crossword_state.h"
 #include "document/installments.h"
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 namespace {
 
 /// Whether the file goes on with the cells that were read from it, whatever letters the user has
 /// put into them since. If it doesn't, it has become another crossword, which must stay.
-bool HoldsCells(toolkit::TextReader& file, int installment) {
+bool HoldsCells(files::TextReader& file, int installment) {
   const CrosswordState& state = glavni;
   CellWalk walk(installment, state.nast_smer);
   for (int cell = state.nast_polja(installment); cell > 0; --cell) {
@@ -26,7 +26,7 @@ bool HoldsCells(toolkit::TextReader& file, int installment) {
   return true;
 }
 
-void WriteCells(toolkit::FileRewrite& file, int installment) {
+void WriteCells(files::FileRewrite& file, int installment) {
   const CrosswordState& state = glavni;
   CellWalk walk(installment, state.nast_smer);
   // A file that was shorter than its size stays so.
@@ -44,8 +44,8 @@ void Rewrite(int installment) {
   const std::string temporary = InstallmentPath(installment, "qvt");
   // The rewriting waits for another program that rewrites the same file, so it begins before the
   // header is read.
-  toolkit::FileRewrite rewrite(path, FileName(temporary));
-  toolkit::TextReader file(path);
+  files::FileRewrite rewrite(path, FileName(temporary));
+  files::TextReader file(path);
   const Header header = ReadHeader(file);
   if (!HoldsCells(file, installment)) return;
   for (const std::string& line : header) rewrite.PrintLine(line);
@@ -57,7 +57,7 @@ void Rewrite(int installment) {
 
 void snimi_ukrstenicu() {
   toolkit::Screen::MousePointer(11);
-  for (int i = 1; i <= glavni.nast_zadnji; ++i) toolkit::pass_over([i] { Rewrite(i); });
+  for (int i = 1; i <= glavni.nast_zadnji; ++i) files::pass_over([i] { Rewrite(i); });
   toolkit::Screen::MousePointer(0);
 }
 

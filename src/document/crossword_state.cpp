@@ -64,7 +64,7 @@ std::string InstallmentPath(int number, std::string_view extension) {
   const bool numbered = glavni.nast_cifre == 3;
   const std::size_t replaced = numbered ? std::size("001.qvm") - 1 : std::size("qvm") - 1;
   std::string path = glavni.ukr_ucitana;
-  if (path.size() < replaced) throw toolkit::RuntimeError(toolkit::error::invalid_call);
+  if (path.size() < replaced) throw files::RuntimeError(files::error::invalid_call);
   path.resize(path.size() - replaced);
   if (numbered) path += InstallmentDigits(number) + '.';
   return path.append(extension);

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/toolkit/run_time_error.h"
+#include "files/run_time_error.h"
 
 namespace kalvon {
 
@@ -21,7 +21,7 @@ class Int16 {
   Int16(int value) : value_(static_cast<std::int16_t>(value)) {  // NOLINT: converts like a number
     if (value < std::numeric_limits<std::int16_t>::min() ||
         value > std::numeric_limits<std::int16_t>::max())
-      throw toolkit::RuntimeError(toolkit::error::overflow);
+      throw files::RuntimeError(files::error::overflow);
   }
   operator int() const { return value_; }  // NOLINT: converts like a number
 
@@ -44,7 +44,7 @@ class Table {
   /// Error 9 for a dimension without an index.
   explicit Table(const std::array<IndexRange, Dimensions>& bounds) : bounds_(bounds) {
     for (const IndexRange& b : bounds_)
-      if (b.highest < b.lowest) throw toolkit::RuntimeError(toolkit::error::subscript_out_of_range);
+      if (b.highest < b.lowest) throw files::RuntimeError(files::error::subscript_out_of_range);
   }
 
   /// Reads an element; one that was never written is empty.
@@ -68,7 +68,7 @@ class Table {
     for (std::size_t d = 0; d < Dimensions; ++d) {
       const auto [lowest, highest] = bounds_[d];
       if (indexes[d] < lowest || indexes[d] > highest)
-        throw toolkit::RuntimeError(toolkit::error::subscript_out_of_range);
+        throw files::RuntimeError(files::error::subscript_out_of_range);
       place = place * static_cast<std::size_t>(highest - lowest + 1) +
               static_cast<std::size_t>(indexes[d] - lowest);
     }

@@ -9,7 +9,7 @@
 
 #include "document/installments.h"
 #include "document/load_progress.h"
-#include "shell/toolkit/host_paths.h"
+#include "files/host_paths.h"
 
 namespace kalvon {
 namespace {
@@ -20,18 +20,18 @@ using NamesOnDisk = std::unordered_map<std::string, std::string>;
 
 /// The names of the files by their lower case. Where two differ only in capitals, the chosen file
 /// goes first.
-NamesOnDisk ByLowerCase(const std::vector<std::string>& files, std::string_view chosen) {
+NamesOnDisk ByLowerCase(const std::vector<std::string>& folder, std::string_view chosen) {
   NamesOnDisk names;
-  names.reserve(files.size() + 1);
-  names.emplace(toolkit::LowerCase(chosen), chosen);
-  for (const std::string& file : files) names.emplace(toolkit::LowerCase(file), file);
+  names.reserve(folder.size() + 1);
+  names.emplace(files::LowerCase(chosen), chosen);
+  for (const std::string& file : folder) names.emplace(files::LowerCase(file), file);
   return names;
 }
 
 /// The name of an installment's file, in lower case.
 std::string NameOf(int installment) {
   const std::string number = glavni.nast_cifre == 3 ? InstallmentDigits(installment) : "";
-  return toolkit::LowerCase(glavni.ukr_osnova + number + ".qvm");
+  return files::LowerCase(glavni.ukr_osnova + number + ".qvm");
 }
 
 void CountCell(std::string_view cell) {
@@ -44,7 +44,7 @@ void CountCell(std::string_view cell) {
   if (Behind(across, '$').starts_with('1')) ++glavni.br_uspravnih;
 }
 
-void ReadCell(toolkit::TextReader& file, int x, int y, bool counted) {
+void ReadCell(files::TextReader& file, int x, int y, bool counted) {
   std::string& cell = glavni.ukr_polja(x, y, 1);
   cell = file.Line();
   if (counted) CountCell(cell);
@@ -55,7 +55,7 @@ void ReadCell(toolkit::TextReader& file, int x, int y, bool counted) {
 
 /// Reads the cells up to the end of the file and returns how many of them are the installment's
 /// own. Lines behind the last one are ignored, unless the next installment stands beside.
-int ReadCells(toolkit::TextReader& file, int installment, int joined) {
+int ReadCells(files::TextReader& file, int installment, int joined) {
   int own_cells = 0;
   CellWalk walk(installment, joined);
   while (!file.AtEnd()) {
@@ -70,7 +70,7 @@ int ReadCells(toolkit::TextReader& file, int installment, int joined) {
 }
 
 int ReadFile(const std::string& path, int installment, int joined) {
-  toolkit::TextReader file(path);
+  files::TextReader file(path);
   Header header = ReadHeader(file);
   for (std::size_t line = 0; line < header.size(); ++line) ProgressStep();
   glavni.media_sadrzaj(installment) = std::move(header.front());

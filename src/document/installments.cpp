@@ -22,7 +22,7 @@ std::string_view LastCharacters(std::string_view text, std::size_t count) {
 
 }  // namespace
 
-Header ReadHeader(toolkit::TextReader& file) {
+Header ReadHeader(files::TextReader& file) {
   Header header;
   for (std::string& line : header) line = file.Line();
   return header;
@@ -52,7 +52,7 @@ std::string_view FileName(std::string_view path) { return path.substr(path.rfind
 
 Installments FindInstallments(std::string_view name, const std::vector<std::string>& folder) {
   const std::size_t dot = name.find('.');
-  if (dot == std::string_view::npos) throw toolkit::RuntimeError(toolkit::error::invalid_call);
+  if (dot == std::string_view::npos) throw files::RuntimeError(files::error::invalid_call);
   const std::string_view bare_name = name.substr(0, dot);
   const std::string_view number = LastCharacters(bare_name, number_length);
 

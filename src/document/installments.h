@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "document/crossword_state.h"
-#include "shell/toolkit/text_file.h"
+#include "files/text_file.h"
 
 namespace kalvon {
 
@@ -24,7 +24,7 @@ inline constexpr int one_under_the_other = 2;
 using Header = std::array<std::string, 9>;
 
 /// Reads the header from the start of a file. Error 62 if the file has fewer lines.
-Header ReadHeader(toolkit::TextReader& file);
+Header ReadHeader(files::TextReader& file);
 
 /// What a header says of its grid.
 struct Dimensions {

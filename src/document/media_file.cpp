@@ -5,7 +5,7 @@
 #include <string>
 
 #include "document/crossword_state.h"
-#include "shell/toolkit/host_paths.h"
+#include "files/host_paths.h"
 
 namespace kalvon {
 
@@ -24,7 +24,7 @@ bool IsBare(std::string_view name) {
 
 bool MayNameMedium(std::string_view name) {
   if (!IsBare(name)) return false;
-  const std::string lower = toolkit::LowerCase(name);
+  const std::string lower = files::LowerCase(name);
   return lower != settings_file && std::ranges::any_of(media_ends, [&](std::string_view end) {
            return lower.ends_with(end);
          });

@@ -12,9 +12,9 @@
 
 #include "document/crossword_state.h"
 #include "document/media_file.h"
+#include "files/binary_file.h"
 #include "multimedia/media_pane.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/binary_file.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -76,7 +76,7 @@ std::optional<PackEntry> FindInTable(std::string_view table, std::string_view na
 }
 
 /// Position of the file's first byte, counted from 1: behind the padding of the file before it.
-std::int64_t FindStart(const toolkit::BinaryReader& pack, std::int64_t offset) {
+std::int64_t FindStart(const files::BinaryReader& pack, std::int64_t offset) {
   if (offset < 2) return 1;
   Buffer buffer;
   std::int64_t position = offset - 2;
@@ -91,8 +91,8 @@ std::int64_t FindStart(const toolkit::BinaryReader& pack, std::int64_t offset) {
 
 /// Copies what the pack holds of the file. A pack that is missing gives an empty file.
 void CutOut(const std::string& pack_path, const PackEntry& entry) {
-  const toolkit::BinaryWriter file(glavni.app_staza + glavni.media_fajl);
-  const toolkit::BinaryReader pack(pack_path);
+  const files::BinaryWriter file(glavni.app_staza + glavni.media_fajl);
+  const files::BinaryReader pack(pack_path);
   Buffer buffer;
   std::int64_t position = FindStart(pack, entry.offset);
   for (std::int64_t left = entry.size; left > 0;) {
@@ -109,11 +109,11 @@ void Extract() {
   if (!MayNameMedium(glavni.media_fajl)) return;
   const int installment = InstallmentOfWord();
   std::string pack_path;
-  toolkit::pass_over([&] { pack_path = InstallmentPath(installment, "qvd"); });
+  files::pass_over([&] { pack_path = InstallmentPath(installment, "qvd"); });
   std::string_view table;
-  toolkit::pass_over([&] { table = std::as_const(glavni).media_sadrzaj(installment); });
+  files::pass_over([&] { table = std::as_const(glavni).media_sadrzaj(installment); });
   const auto entry = FindInTable(table, glavni.media_fajl);
-  if (entry) toolkit::pass_over([&] { CutOut(pack_path, *entry); });
+  if (entry) files::pass_over([&] { CutOut(pack_path, *entry); });
 }
 
 std::string TypeOf(std::string_view name) {

@@ -6,9 +6,9 @@
 
 #include "display/fonts.h"
 #include "document/crossword_state.h"
+#include "files/text_file.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
-#include "shell/toolkit/text_file.h"
 
 namespace kalvon {
 namespace {
@@ -21,15 +21,15 @@ using Lines = std::array<std::string, 4>;
 
 Lines ReadLines() {
   Lines lines;
-  toolkit::pass_over([&] {
-    toolkit::TextReader file(glavni.app_staza + file_name);
+  files::pass_over([&] {
+    files::TextReader file(glavni.app_staza + file_name);
     for (std::string& line : lines) line = file.Line();
   });
   return lines;
 }
 
 void WriteLines(const Lines& lines) {
-  toolkit::FileRewrite file(glavni.app_staza + file_name, temporary_name);
+  files::FileRewrite file(glavni.app_staza + file_name, temporary_name);
   for (const std::string& line : lines) file.PrintLine(line);
   file.Commit();
 }
@@ -41,23 +41,23 @@ std::string ValueOf(const std::string& line) { return std::string(Behind(line, '
 
 void ucitaj_ini() {
   const Lines lines = ReadLines();
-  toolkit::pass_over([&] { frm_ucit_snimi->Dir1.Path(ValueOf(lines[1])); });
+  files::pass_over([&] { frm_ucit_snimi->Dir1.Path(ValueOf(lines[1])); });
   if (glavni.jezik == 0) {
     const int script = ValueOf(lines[2]) == "Cirilica" ? 0 : 1;
-    toolkit::pass_over([&] { frm_opcije->opt_opcije(script).Value(true); });
+    files::pass_over([&] { frm_opcije->opt_opcije(script).Value(true); });
     const int layout = ValueOf(lines[3]) == "Unikod" ? 1 : 0;
-    toolkit::pass_over([&] { frm_opcije->opt_opcije1(layout).Value(true); });
+    files::pass_over([&] { frm_opcije->opt_opcije1(layout).Value(true); });
     return;
   }
-  toolkit::pass_over([&] { frm_opcije->opt_opcije1(0).Value(true); });
-  toolkit::pass_over([&] { frm_opcije->opt_opcije(1).Value(true); });
-  toolkit::pass_over([] { postavi_charset(); });
+  files::pass_over([&] { frm_opcije->opt_opcije1(0).Value(true); });
+  files::pass_over([&] { frm_opcije->opt_opcije(1).Value(true); });
+  files::pass_over([] { postavi_charset(); });
 }
 
 void snimi_ini() {
   const bool cyrillic = frm_opcije->opt_opcije(0).Value();
   const bool yu_ascii = frm_opcije->opt_opcije1(0).Value();
-  toolkit::pass_over([&] {
+  files::pass_over([&] {
     WriteLines({"Vostrand Kalvon Multimedia", "Staza:" + frm_ucit_snimi->Dir1.Path(),
                 cyrillic ? "Pismo:Cirilica" : "Pismo:Latinica",
                 yu_ascii ? "Tastatura:YU ASCII" : "Tastatura:Unikod"});

@@ -6,16 +6,16 @@
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
 #include "document/media_file.h"
+#include "files/text_file.h"
 #include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/text_file.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
 namespace {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 constexpr std::size_t longest_text =
     std::size_t{256} * 1024;  // Bytes that a text clue shows at most.
@@ -58,7 +58,7 @@ void ShowPicture() {
 std::string ReadText() {
   std::string text;
   pass_over([&] {
-    toolkit::TextReader file(glavni.media_temp);
+    files::TextReader file(glavni.media_temp);
     do {
       std::string line;
       pass_over([&] { line = file.Line(); });
@@ -149,7 +149,7 @@ void zatvori_mci() { frm_glavni->mm_media.Command("close"); }
 
 void obrisi_temp() {
   if (glavni.media_temp.empty()) return;
-  if (IsTemporaryMedium(glavni.media_temp)) pass_over([] { toolkit::Kill(glavni.media_temp); });
+  if (IsTemporaryMedium(glavni.media_temp)) pass_over([] { files::Kill(glavni.media_temp); });
   glavni.media_temp.clear();
 }
 

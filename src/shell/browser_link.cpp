@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cctype>
 
+#include "files/run_time_error.h"
 #include "shell/forms/frm_help.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/registry.h"
-#include "shell/toolkit/run_time_error.h"
+#include "shell/toolkit/desktop/registry.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -50,10 +50,10 @@ std::string UpperCase(std::string text) {
 template <typename Step>
 void Converse(const Browser& browser, int& retries, Step step) {
   for (;;) {
-    const int failure = toolkit::pass_over(step);
+    const int failure = files::pass_over(step);
     if (failure == 0) return;
-    if (failure != toolkit::error::no_application_answered || retries == most_retries)
-      throw toolkit::RuntimeError(failure);
+    if (failure != files::error::no_application_answered || retries == most_retries)
+      throw files::RuntimeError(failure);
     if (retries == 0) toolkit::Shell(browser.command_line);
     ++retries;
   }
@@ -89,7 +89,7 @@ std::string citaj_registar(std::uint32_t& root, const std::string& key_path,
 void pokreni_browser(const std::string& address) {
   try {
     ShowPage(address);
-  } catch (const toolkit::RuntimeError&) {
+  } catch (const files::RuntimeError&) {
     toolkit::MsgBox("Nije ostvarena veza sa Browser-om");
   }
 }

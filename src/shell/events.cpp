@@ -16,7 +16,7 @@
 #include "shell/load_dialog.h"
 #include "shell/options_dialog.h"
 #include "shell/startup.h"
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 #include "solving/word_editor.h"
 #include "solving/word_selection.h"
 

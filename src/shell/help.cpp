@@ -4,10 +4,10 @@
 #include <initializer_list>
 
 #include "document/crossword_state.h"
+#include "files/host_paths.h"
 #include "shell/browser_link.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_help.h"
-#include "shell/toolkit/host_paths.h"
 
 namespace kalvon {
 
@@ -20,7 +20,7 @@ void EnableCommands(std::initializer_list<int> commands, bool enabled) {
 }  // namespace
 
 void OpenManual() {
-  frm_help->txtURL.Text(toolkit::LowerCase(glavni.app_staza) + "uputstvo\\pocetak.htm");
+  frm_help->txtURL.Text(files::LowerCase(glavni.app_staza) + "uputstvo\\pocetak.htm");
   pokreni_browser(frm_help->txtURL.Text());
 }
 

@@ -8,17 +8,17 @@
 #include "document/crossword_load.h"
 #include "document/crossword_state.h"
 #include "document/installments.h"
+#include "files/host_paths.h"
+#include "files/text_file.h"
 #include "multimedia/media_pane.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_ucit_snimi.h"
-#include "shell/toolkit/host_paths.h"
-#include "shell/toolkit/text_file.h"
 
 namespace kalvon {
 
 namespace {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 constexpr int load_mode = 1;
 constexpr int save_mode = 2;
@@ -131,11 +131,11 @@ void opis_fajla() {
   auto& dialog = *frm_ucit_snimi;
   dialog.lbl_ucit.Caption("");
   if (dialog.txt_ucit.Text().empty()) return;
-  glavni.ukr_staza = toolkit::WithBackslash(dialog.Dir1.Path()) + dialog.txt_ucit.Text();
+  glavni.ukr_staza = files::WithBackslash(dialog.Dir1.Path()) + dialog.txt_ucit.Text();
 
   Header header;
   pass_over([&] {
-    toolkit::TextReader file(glavni.ukr_staza);
+    files::TextReader file(glavni.ukr_staza);
     for (std::string& line : header) line = file.Line();
   });
   dialog.lbl_ucit.Caption(Description(header));

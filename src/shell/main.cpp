@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/events.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 
 int main(int argc, char** argv) {
   toolkit::Application application(argc, argv);

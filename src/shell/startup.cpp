@@ -4,6 +4,7 @@
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
 #include "document/settings.h"
+#include "files/host_paths.h"
 #include "multimedia/media_pane.h"
 #include "shell/english_captions.h"
 #include "shell/forms/frm_glavni.h"
@@ -11,8 +12,7 @@
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/options_dialog.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -67,7 +67,7 @@ void ChooseFont() {
 
 void Start() {
   glavni.jezik = ProgramLanguage();
-  glavni.app_staza = toolkit::WithBackslash(toolkit::App::Path());
+  glavni.app_staza = files::WithBackslash(toolkit::App::Path());
   PlaceForms();
   ShowProgramFolder();
   glavni.azbuka =
@@ -90,13 +90,13 @@ void Start() {
 void pokreni() {
   try {
     Start();
-  } catch (const toolkit::RuntimeError&) {
+  } catch (const files::RuntimeError&) {
     toolkit::End();
   }
 }
 
 void kraj() {
-  toolkit::pass_over([] { zatvori_media(); });
+  files::pass_over([] { zatvori_media(); });
   snimi_ini();
   toolkit::End();
 }

@@ -6,14 +6,14 @@
 #include <utility>
 
 #include "document/crossword_state.h"
+#include "files/run_time_error.h"
 #include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/run_time_error.h"
 #include "solving/word_search.h"
 
 namespace kalvon {
 
-using toolkit::pass_over;
+using files::pass_over;
 
 namespace {
 

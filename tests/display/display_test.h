@@ -11,7 +11,7 @@
 
 #include "display/clue_page.h"
 #include "display/grid_geometry.h"
-#include "shell/toolkit/surface_p.h"
+#include "shell/toolkit/drawing/surface_p.h"
 #include "solving/word_search.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 

@@ -43,11 +43,11 @@ TEST(Limits, RaiseTheErrorsOfTheProgram) {
   table(0, 1) = "first";
   table(3, 2) = "last";
   EXPECT_EQ(reading(0, 1) + reading(3, 2) + reading(1, 2), "firstlast");
-  constexpr int out_of_range = toolkit::error::subscript_out_of_range;
+  constexpr int out_of_range = files::error::subscript_out_of_range;
   for (const auto& [n, c] : {std::pair{-1, 1}, {4, 1}, {0, 0}, {0, 3}}) {
-    EXPECT_EQ(toolkit::pass_over([&, n = n, c = c] { table(n, c) = "x"; }), out_of_range) << n << c;
+    EXPECT_EQ(files::pass_over([&, n = n, c = c] { table(n, c) = "x"; }), out_of_range) << n << c;
   }
-  EXPECT_EQ(toolkit::pass_over([] { glavni.smer = 32768; }), toolkit::error::overflow);
+  EXPECT_EQ(files::pass_over([] { glavni.smer = 32768; }), files::error::overflow);
 }
 
 }  // namespace

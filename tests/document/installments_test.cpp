@@ -39,7 +39,7 @@ TEST(Installments, AreFoundByTheNameOfTheChosenFile) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(values(FindInstallments(c.name, folder)), values(c.expected)) << c.name;
-  EXPECT_THROW(FindInstallments("", folder), toolkit::RuntimeError);
+  EXPECT_THROW(FindInstallments("", folder), files::RuntimeError);
 }
 
 TEST(Installments, AreJoinedByTheLastMarkedLine) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/toolkit/host_paths.h"
+#include "files/host_paths.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 
@@ -20,7 +20,7 @@ class Settings : public testing::ProgramTest {
  protected:
   explicit Settings(int language = 0) : ProgramTest(language) {}
 
-  [[nodiscard]] std::string ProgramFolder() const { return toolkit::LogicPath(folder().string()); }
+  [[nodiscard]] std::string ProgramFolder() const { return files::LogicPath(folder().string()); }
 
   static void ExpectOptions(bool cyrillic, bool unicode) {
     EXPECT_EQ(frm_opcije->opt_opcije(0).Value(), cyrillic);
@@ -80,10 +80,10 @@ TEST_F(Settings, BringBackTheFolderWithItsFiles) {
   const std::filesystem::path other = folder() / "Druga: a";
   std::filesystem::create_directory(other);
   WriteFile("Druga: a/zima.qvm", "");
-  frm_ucit_snimi->Dir1.Path(toolkit::LogicPath(other.string()));
+  frm_ucit_snimi->Dir1.Path(files::LogicPath(other.string()));
   snimi_ini();
   Restart();
-  EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), toolkit::LogicPath(other.string()));
+  EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), files::LogicPath(other.string()));
   ASSERT_EQ(frm_ucit_snimi->File1.ListCount(), 1);
   EXPECT_EQ(frm_ucit_snimi->File1.List(0), "zima.qvm");
 }

@@ -6,16 +6,16 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
+#include "files/host_paths.h"
+#include "shell/toolkit/windows/application.h"
 #include "support/program_test.h"
 #include "support/scripted_browser.h"
 
 namespace kalvon::testing {
 namespace {
 
-constexpr int unanswered = toolkit::error::no_application_answered;
-constexpr int refused = toolkit::error::link_refused;
+constexpr int unanswered = files::error::no_application_answered;
+constexpr int refused = files::error::link_refused;
 
 class BrowserLinkTest : public ProgramTest {
  protected:
@@ -42,7 +42,7 @@ class BrowserLinkTest : public ProgramTest {
 
 TEST_F(BrowserLinkTest, ARunningBrowserIsAskedForTheManualAndNotStarted) {
   EXPECT_EQ(PressHelp(), std::vector<std::string>{});
-  const std::string folder = toolkit::LowerCase(toolkit::App::Path());
+  const std::string folder = files::LowerCase(toolkit::App::Path());
   EXPECT_EQ(browser().calls,
             (std::vector<std::string>{"connect CITAC|WWW_OpenURL",
                                       "request " + folder + "\\uputstvo\\pocetak.htm,,-1"}));
@@ -68,7 +68,7 @@ const Conversation conversations[] = {
      1,
      false},
     {"never answers", {unanswered}, {0}, 0, 7, 0, 1, true},
-    {"cannot be started", {unanswered}, {0}, toolkit::error::file_not_found, 1, 0, 1, true},
+    {"cannot be started", {unanswered}, {0}, files::error::file_not_found, 1, 0, 1, true},
     {"fails otherwise", {refused}, {0}, 0, 1, 0, 0, true},
     {"refuses the request", {0}, {refused}, 0, 1, 1, 0, true},
     {"counts the tries of both steps together",
@@ -97,9 +97,8 @@ TEST_F(BrowserLinkTest, StartsTheBrowserOnceAndTriesSixTimesMore) {
 }
 
 TEST_F(BrowserLinkTest, WithoutABrowserThereIsOneMessageAndTheProgramGoesOn) {
-  browser() = {.registry = {},
-               .connect_errors = {unanswered},
-               .start_error = toolkit::error::file_not_found};
+  browser() = {
+      .registry = {}, .connect_errors = {unanswered}, .start_error = files::error::file_not_found};
   EXPECT_EQ(PressHelp().size(), 1U);
   EXPECT_EQ(browser().calls.front(), "connect |");
   CopySample("proba.qvm");

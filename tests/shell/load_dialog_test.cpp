@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <fstream>
 
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
+#include "files/host_paths.h"
+#include "shell/toolkit/windows/application.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {
@@ -179,12 +179,12 @@ TEST_F(LoadDialogTest, ADriveThatCannotBeReadLeadsBackToTheProgramsOwn) {
   CopySample("proba.qvm");
   Choose("proba.qvm");
   std::ofstream(folder() / "mounts") << "dev /mnt vfat rw 0 0\n";
-  toolkit::MountTable((folder() / "mounts").string());
+  files::MountTable((folder() / "mounts").string());
   frm_ucit_snimi->Drive1.Drive("d:");
   EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), "d:\\");
   std::ofstream(folder() / "mounts") << "";
   frm_ucit_snimi->Drive1.Change.Raise();
-  toolkit::MountTable("/proc/self/mounts");
+  files::MountTable("/proc/self/mounts");
   EXPECT_EQ(frm_ucit_snimi->Drive1.Drive(), "c:\\");
   EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), "c:\\");
   EXPECT_EQ(frm_ucit_snimi->txt_ucit.Text(), "");

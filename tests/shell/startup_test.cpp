@@ -5,8 +5,8 @@
 #include <csignal>
 
 #include "shell/commands.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/end_requests_p.h"
+#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/windows/end_requests_p.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {

@@ -9,11 +9,11 @@
 #include <fstream>
 #include <sstream>
 
+#include "files/host_paths.h"
 #include "shell/events.h"
 #include "shell/language.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/host_paths.h"
-#include "shell/toolkit/surface_p.h"
+#include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -46,7 +46,7 @@ void ProgramTest::SetUp() { Start(); }
 void ProgramTest::Start() {
   language_under_test = language_;
   glavni = CrosswordState{};
-  toolkit::App::Path(toolkit::LogicPath(folder_.string()));
+  toolkit::App::Path(files::LogicPath(folder_.string()));
   toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();
   frm_glavni->Show();

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/toolkit/browser_host.h"
-#include "shell/toolkit/run_time_error.h"
+#include "files/run_time_error.h"
+#include "shell/toolkit/desktop/browser_host.h"
 
 namespace kalvon::testing {
 
@@ -42,7 +42,7 @@ class ScriptedBrowser : public toolkit::BrowserHost {
   }
   void Start(const std::string& command_line) override {
     script_.calls.push_back("start " + command_line);
-    if (script_.start_error != 0) throw toolkit::RuntimeError(script_.start_error);
+    if (script_.start_error != 0) throw files::RuntimeError(script_.start_error);
   }
 
  private:
@@ -50,7 +50,7 @@ class ScriptedBrowser : public toolkit::BrowserHost {
     script_.calls.push_back(call);
     const int error = errors.front();
     if (errors.size() > 1) errors.erase(errors.begin());
-    if (error != 0) throw toolkit::RuntimeError(error);
+    if (error != 0) throw files::RuntimeError(error);
   }
 
   BrowserScript& script_;

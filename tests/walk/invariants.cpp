@@ -11,7 +11,7 @@
 #include "document/crossword_state.h"
 #include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/surface_p.h"
+#include "shell/toolkit/drawing/surface_p.h"
 
 namespace kalvon::testing {
 

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "shell/toolkit/application.h"
+#include "shell/toolkit/windows/application.h"
 #include "support/program_test.h"
 #include "walk/invariants.h"
 

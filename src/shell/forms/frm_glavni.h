@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/toolkit/button.h"
-#include "shell/toolkit/control_array.h"
-#include "shell/toolkit/form.h"
-#include "shell/toolkit/label.h"
-#include "shell/toolkit/media_control.h"
-#include "shell/toolkit/picture_box.h"
-#include "shell/toolkit/scroll_bar.h"
-#include "shell/toolkit/text_box.h"
+#include "shell/toolkit/controls/button.h"
+#include "shell/toolkit/controls/control_array.h"
+#include "shell/toolkit/controls/label.h"
+#include "shell/toolkit/input/picture_box.h"
+#include "shell/toolkit/input/scroll_bar.h"
+#include "shell/toolkit/input/text_box.h"
+#include "shell/toolkit/media/media_control.h"
+#include "shell/toolkit/windows/form.h"
 
 namespace kalvon {
 

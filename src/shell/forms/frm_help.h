@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/toolkit/button.h"
-#include "shell/toolkit/form.h"
-#include "shell/toolkit/label.h"
-#include "shell/toolkit/text_box.h"
+#include "shell/toolkit/controls/button.h"
+#include "shell/toolkit/controls/label.h"
+#include "shell/toolkit/input/text_box.h"
+#include "shell/toolkit/windows/form.h"
 
 namespace kalvon {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/toolkit/button.h"
-#include "shell/toolkit/control_array.h"
-#include "shell/toolkit/form.h"
-#include "shell/toolkit/frame.h"
-#include "shell/toolkit/label.h"
+#include "shell/toolkit/controls/button.h"
+#include "shell/toolkit/controls/control_array.h"
+#include "shell/toolkit/controls/frame.h"
+#include "shell/toolkit/controls/label.h"
+#include "shell/toolkit/windows/form.h"
 
 namespace kalvon {
 

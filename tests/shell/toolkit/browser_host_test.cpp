@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/toolkit/browser_host.h"
+#include "shell/toolkit/desktop/browser_host.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include <QUrl>
 #include <cstdlib>
 
-#include "shell/toolkit/run_time_error.h"
-#include "shell/toolkit/scratch_folder.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
 
 namespace toolkit {
 namespace {
@@ -78,9 +78,10 @@ TEST_F(BrowserHostTest, ReadsTheDefaultBrowsersDesktopEntry) {
 TEST_F(BrowserHostTest, AnswersByItsNameAlone) {
   auto& host = CurrentBrowserHost();
   const std::string topic = "|" + Read(R"(ddeexec\Topic)");
-  EXPECT_EQ(pass_over([&] { host.Connect("MOJ-CITAC" + topic); }), 0);
+  EXPECT_EQ(files::pass_over([&] { host.Connect("MOJ-CITAC" + topic); }), 0);
   for (const char* name : {"|", "NEMA|WWW_OpenURL", "MOJ-CITAC", "MOJ-CITAC|"})
-    EXPECT_EQ(pass_over([&] { host.Connect(name); }), error::no_application_answered) << name;
+    EXPECT_EQ(files::pass_over([&] { host.Connect(name); }), files::error::no_application_answered)
+        << name;
 }
 
 TEST_F(BrowserHostTest, OpensEachPageOnceByItsRealPathAndStartsNothingElse) {
@@ -92,7 +93,7 @@ TEST_F(BrowserHostTest, OpensEachPageOnceByItsRealPathAndStartsNothingElse) {
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
     folder_.Put(name, "");
-    host.Request(LowerCase(folder_.Logic(name)) + ",,-1");
+    host.Request(files::LowerCase(folder_.Logic(name)) + ",,-1");
     const std::vector<std::string> lines = Lines(++opened);
     ASSERT_EQ(lines.size(), 3U * static_cast<unsigned>(opened));
     const std::string& address = lines[lines.size() - 2];
@@ -112,14 +113,15 @@ TEST_F(BrowserHostTest, StartsAProgramWithoutAShell) {
   host.Start(Read("command") + " '$(touch x)' \"a b\"");
   EXPECT_EQ(Lines(1), (std::vector<std::string>{"--novi", "$(touch x)", "a b", "kraj"}));
   for (const char* command : {"", "%u", "\"", "nema-takvog-programa --novi"})
-    EXPECT_EQ(pass_over([&] { host.Start(command); }), error::file_not_found) << command;
+    EXPECT_EQ(files::pass_over([&] { host.Start(command); }), files::error::file_not_found)
+        << command;
 }
 
 TEST_F(BrowserHostTest, ABrowserThatIsGoneRefuses) {
   auto& host = CurrentBrowserHost();
   host.Connect("MOJ-CITAC|" + Read(R"(ddeexec\Topic)"));
   fs::remove(folder_.Host("moj citac"));
-  EXPECT_EQ(pass_over([&] { host.Request("about:blank,,-1"); }), error::link_refused);
+  EXPECT_EQ(files::pass_over([&] { host.Request("about:blank,,-1"); }), files::error::link_refused);
 }
 
 }  // namespace

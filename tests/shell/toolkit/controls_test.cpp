@@ -8,8 +8,8 @@
 #include <QTest>
 #include <stdexcept>
 
-#include "shell/toolkit/application.h"
 #include "shell/toolkit/control_form.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace toolkit::testing {
 namespace {
@@ -47,7 +47,7 @@ TEST_F(ControlsTest, AScrollBarWithMaxBelowMinKeepsMin) {
   form.bar.Value(5);
   EXPECT_EQ(form.bar.Value(), 1);
   EXPECT_EQ(form.bar.Max(), 0);
-  EXPECT_THROW(form.bar.Max(32768), RuntimeError);
+  EXPECT_THROW(form.bar.Max(32768), files::RuntimeError);
 }
 
 TEST_F(ControlsTest, AScrollBarActsWhenTheThumbIsLetGo) {
@@ -75,14 +75,14 @@ TEST_F(ControlsTest, AnOptionButtonClearsTheOthersOfItsGroup) {
   EXPECT_FALSE(form.options(0).Value());
   form.options(1).Value(false);
   EXPECT_FALSE(form.options(1).Value());
-  EXPECT_THROW(form.options(2), RuntimeError);
+  EXPECT_THROW(form.options(2), files::RuntimeError);
 }
 
 TEST_F(ControlsTest, AHandlerMayFailAndMayReplaceItself) {
   form.button.Click = [&] {
     form.button.Click = [&] { raised += 10; };
     ++raised;
-    throw RuntimeError(error::overflow);
+    throw files::RuntimeError(files::error::overflow);
   };
   QTest::mouseClick(form.Widget("button"), Qt::LeftButton);
   EXPECT_EQ(raised, 1);
@@ -113,7 +113,7 @@ TEST_F(ControlsTest, ADisabledFormTakesNoInputAndLooksAsBefore) {
   EXPECT_EQ(raised, 0);
   EXPECT_TRUE(form.Visible());
   EXPECT_EQ(form.InnerWidget()->grab().toImage(), before);
-  EXPECT_THROW(form.box.SetFocus(), RuntimeError);
+  EXPECT_THROW(form.box.SetFocus(), files::RuntimeError);
   form.Enabled(true);
   QTest::mouseClick(form.Widget("button"), Qt::LeftButton);
   EXPECT_EQ(raised, 1);
@@ -147,13 +147,13 @@ TEST_F(ControlsTest, GotFocusComesFromTheEventLoop) {
 
 TEST_F(ControlsTest, WhatIsHiddenOrDisabledTakesNoFocus) {
   form.box.Enabled(false);
-  EXPECT_THROW(form.box.SetFocus(), RuntimeError);
+  EXPECT_THROW(form.box.SetFocus(), files::RuntimeError);
   form.box.Enabled(true);
   form.box.Visible(false);
-  EXPECT_THROW(form.box.SetFocus(), RuntimeError);
+  EXPECT_THROW(form.box.SetFocus(), files::RuntimeError);
   form.box.Visible(true);
   form.Hide();
-  EXPECT_THROW(form.box.SetFocus(), RuntimeError);
+  EXPECT_THROW(form.box.SetFocus(), files::RuntimeError);
 }
 
 TEST_F(ControlsTest, AnAutoSizeLabelTakesTheWidthOfItsCaptionAtOnce) {

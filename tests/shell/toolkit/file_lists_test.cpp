@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/toolkit/file_lists.h"
+#include "shell/toolkit/input/file_lists.h"
 
 #include <gtest/gtest.h>
 
@@ -12,10 +12,10 @@
 #include <utility>
 #include <vector>
 
-#include "shell/toolkit/form.h"
-#include "shell/toolkit/host_paths.h"
-#include "shell/toolkit/run_time_error.h"
-#include "shell/toolkit/scratch_folder.h"
+#include "files/host_paths.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
+#include "shell/toolkit/windows/form.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ class ListForm : public toolkit::Form {
 
 class FileListsTest : public testing::Test {
  public:
-  ~FileListsTest() override { toolkit::MountTable("/proc/self/mounts"); }
+  ~FileListsTest() override { files::MountTable("/proc/self/mounts"); }
 
  protected:
   FileListsTest() {
@@ -89,7 +89,7 @@ class FileListsTest : public testing::Test {
     std::string table;
     for (const std::string& point : points) table += "x " + point + " vfat rw 0 0\n";
     folder_.Put("mounts", table);
-    toolkit::MountTable(folder_.Host("mounts"));
+    files::MountTable(folder_.Host("mounts"));
   }
 
   ScratchFolder folder_;
@@ -104,7 +104,7 @@ TEST_F(FileListsTest, ChoosesADriveByCodeInSilenceIfItIsShown) {
   EXPECT_EQ(form_.drives.Drive(), "c:\\");
   MountFolders({"/mnt/kalvon-nema"});
   for (const char* drive : {"", "c", "q:", "cc:", "/:", "d:\\"}) {
-    EXPECT_EQ(toolkit::pass_over([&] { form_.drives.Drive(drive); }), 68) << drive;
+    EXPECT_EQ(files::pass_over([&] { form_.drives.Drive(drive); }), 68) << drive;
   }
   EXPECT_EQ(form_.drives.Drive(), "c:\\");
 }
@@ -129,7 +129,7 @@ TEST_F(FileListsTest, ShowsTheWayToTheFolderAndWhatIsInIt) {
     fs::create_directories(folder_.Host("Koren/") + name);
   }
   folder_.Put("Koren/datoteka", "");
-  form_.folders.Path(toolkit::LowerCase(folder_.Logic("Koren")) + "\\");
+  form_.folders.Path(files::LowerCase(folder_.Logic("Koren")) + "\\");
 
   const std::string path = folder_.Logic("Koren");
   EXPECT_EQ(form_.folders.Path(), path);
@@ -141,7 +141,7 @@ TEST_F(FileListsTest, ShowsTheWayToTheFolderAndWhatIsInIt) {
                            "alfa", "Beta", "Ćošak"}));
 
   form_.folders.Path(path);
-  EXPECT_EQ(toolkit::pass_over([&] { form_.folders.Path(path + "\\nema"); }), 76);
+  EXPECT_EQ(files::pass_over([&] { form_.folders.Path(path + "\\nema"); }), 76);
   EXPECT_EQ(form_.folders.Path(), path);
   EXPECT_EQ(Rows("folders"), rows);
   EXPECT_EQ(Events(), Strings{});
@@ -211,7 +211,7 @@ TEST_F(FileListsTest, SelectsARowByCode) {
   form_.files.ListIndex(1);
   form_.files.ListIndex(1);
   EXPECT_EQ(Events(), (Strings{"click 1", "click 1"}));
-  EXPECT_EQ(toolkit::pass_over([&] { form_.files.ListIndex(3); }), 380);
+  EXPECT_EQ(files::pass_over([&] { form_.files.ListIndex(3); }), 380);
   form_.files.ListIndex(-1);
   EXPECT_EQ(Events(), Strings{"click -1"});
   EXPECT_FALSE(FilesView()->selectionModel()->hasSelection());
@@ -220,7 +220,7 @@ TEST_F(FileListsTest, SelectsARowByCode) {
   form_.files.Path(folder_.Logic());
   EXPECT_EQ(form_.files.ListCount(), 4);
   EXPECT_EQ(form_.files.ListIndex(), -1);
-  EXPECT_EQ(toolkit::pass_over([&] { form_.files.Path(folder_.Logic("nema")); }), 76);
+  EXPECT_EQ(files::pass_over([&] { form_.files.Path(folder_.Logic("nema")); }), 76);
   EXPECT_EQ(form_.files.ListCount(), 4);
   EXPECT_EQ(Events(), Strings{});
 }

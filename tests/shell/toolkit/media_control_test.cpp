@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/toolkit/media_control.h"
+#include "shell/toolkit/media/media_control.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,12 @@
 #include <QToolButton>
 #include <filesystem>
 
-#include "scratch_folder.h"
-#include "shell/toolkit/application.h"
-#include "shell/toolkit/form.h"
-#include "shell/toolkit/picture_box.h"
-#include "shell/toolkit/run_time_error.h"
-#include "shell/toolkit/surface_p.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
+#include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/input/picture_box.h"
+#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/windows/form.h"
 #include "support/media_files.h"
 
 namespace toolkit {
@@ -157,16 +157,17 @@ TEST_F(MediaControlTest, FailsQuicklyOnWhatTheDeviceDoesNotPlay) {
       {"no device", "", wave},
   };
   for (const Medium& medium : media) {
-    const int error = pass_over([&] { Open(medium.device, medium.bytes); });
-    EXPECT_EQ(error, error::device_unavailable) << medium.name;
-    EXPECT_EQ(pass_over([&] { form_.player.Command("Play"); }), error::device_unavailable);
+    const int error = files::pass_over([&] { Open(medium.device, medium.bytes); });
+    EXPECT_EQ(error, files::error::device_unavailable) << medium.name;
+    EXPECT_EQ(files::pass_over([&] { form_.player.Command("Play"); }),
+              files::error::device_unavailable);
     EXPECT_FALSE(Button("play")->isEnabled()) << medium.name;
     EXPECT_FALSE(FileIsOpen()) << medium.name;
   }
   std::filesystem::remove(folder_.Host("medium"));
-  EXPECT_EQ(pass_over([&] { form_.player.Command("Open"); }), error::file_not_found);
+  EXPECT_EQ(files::pass_over([&] { form_.player.Command("Open"); }), files::error::file_not_found);
   EXPECT_EQ(mkfifo(folder_.Host("medium").c_str(), 0600), 0);
-  EXPECT_EQ(pass_over([&] { form_.player.Command("Open"); }), error::file_not_found);
+  EXPECT_EQ(files::pass_over([&] { form_.player.Command("Open"); }), files::error::file_not_found);
 }
 
 TEST_F(MediaControlTest, ClosesWhilePlayingWithoutCompletion) {

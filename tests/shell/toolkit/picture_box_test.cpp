@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "shell/toolkit/control_form.h"
-#include "shell/toolkit/surface_p.h"
+#include "shell/toolkit/drawing/surface_p.h"
 
 namespace toolkit::testing {
 namespace {
@@ -93,7 +93,7 @@ TEST_F(PictureBoxTest, APictureIsShownAndGivesItsSize) {
   EXPECT_EQ(form.picture.Width(), 420);
   EXPECT_EQ(form.picture.Height(), 420);
   EXPECT_EQ(Pixel(419, 419), 0xFFFFFFU);
-  EXPECT_THROW(BuiltInPicture("missing.bmp"), RuntimeError);
+  EXPECT_THROW(BuiltInPicture("missing.bmp"), files::RuntimeError);
 }
 
 TEST_F(PictureBoxTest, BuiltInPicturesHaveTheFormatsOfTheirTime) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "shell/toolkit/picture.h"
+#include "shell/toolkit/drawing/picture.h"
 
 #include <gtest/gtest.h>
 
 #include <QImage>
 
-#include "scratch_folder.h"
-#include "shell/toolkit/run_time_error.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
 #include "support/bitmap_files.h"
 
 namespace toolkit {
@@ -58,18 +58,19 @@ TEST(PictureTest, RefusesWhatIsNoWholeBitmap) {
   const ScratchFolder folder;
   const auto load = [&](const std::string& bytes) {
     folder.Put("slika.bmp", bytes);
-    return pass_over([&] { LoadPicture(folder.Logic("slika.bmp")); });
+    return files::pass_over([&] { LoadPicture(folder.Logic("slika.bmp")); });
   };
   for (const auto& [name, kind] : rows) {
     const std::string whole = BitmapFile(kind);
     for (const std::size_t size : {std::size_t{0}, std::size_t{30}, whole.size() - 1})
-      EXPECT_EQ(load(whole.substr(0, size)), error::invalid_picture) << name << ", " << size;
+      EXPECT_EQ(load(whole.substr(0, size)), files::error::invalid_picture) << name << ", " << size;
   }
-  EXPECT_EQ(load("GIF89a" + std::string(100, '\0')), error::invalid_picture);
+  EXPECT_EQ(load("GIF89a" + std::string(100, '\0')), files::error::invalid_picture);
   EXPECT_EQ(load(BitmapFile({.bits = 8, .packing = Packing::rle8, .width = 5, .height = 5000})),
-            error::invalid_picture)
+            files::error::invalid_picture)
       << "a picture that would fill the memory";
-  EXPECT_EQ(pass_over([&] { LoadPicture(folder.Logic("nema.bmp")); }), error::file_not_found);
+  EXPECT_EQ(files::pass_over([&] { LoadPicture(folder.Logic("nema.bmp")); }),
+            files::error::file_not_found);
 }
 
 }  // namespace

@@ -139,7 +139,7 @@ TEST_F(TextBoxTest, ShowsItsTextByFontAndCharset) {
 TEST_F(TextBoxTest, AFailingKeyDownStillLetsTheCharacterCome) {
   form.box.KeyDown = [](int& code, int) {
     code = 0;
-    throw RuntimeError(error::invalid_call);
+    throw files::RuntimeError(files::error::invalid_call);
   };
   Type("a", Qt::Key_A);
   EXPECT_EQ(characters, std::vector<int>{'a'});

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "files/text_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+#include "files/descriptor.h"
+#include "files/host_paths.h"
+#include "files/run_time_error.h"
+
+namespace files {
+
+namespace {
+
+constexpr std::size_t block_size = std::size_t{64} * 1024;
+constexpr std::size_t longest_line = std::size_t{16} * 1024 * 1024;
+
+}  // namespace
+
+TextReader::TextReader(std::string_view path) : descriptor_(OpenForReading(path)) {}
+
+TextReader::~TextReader() { close(descriptor_); }
+
+/// Reads one block more; whether there was one.
+bool TextReader::Fill() {
+  if (exhausted_) return false;
+  buffer_.erase(0, position_);
+  position_ = 0;
+  const std::size_t kept = buffer_.size();
+  buffer_.resize(kept + block_size);
+  ssize_t count = 0;
+  do {
+    count = read(descriptor_, &buffer_[kept], block_size);
+  } while (count < 0 && errno == EINTR);
+  unreadable_ = count < 0;
+  exhausted_ = count <= 0;
+  buffer_.resize(kept + (exhausted_ ? 0 : static_cast<std::size_t>(count)));
+  return !exhausted_;
+}
+
+void TextReader::Fail(int number) {
+  buffer_.clear();
+  position_ = 0;
+  exhausted_ = true;
+  unreadable_ = false;
+  throw RuntimeError(number);
+}
+
+bool TextReader::AtEnd() { return position_ == buffer_.size() && !Fill() && !unreadable_; }
+
+std::string TextReader::Line() {
+  if (AtEnd()) throw RuntimeError(error::input_past_end);
+  std::size_t searched = 0;
+  for (;;) {
+    const std::size_t end = buffer_.find("\r\n", position_ + searched);
+    const std::size_t length = (end == std::string::npos ? buffer_.size() : end) - position_;
+    if (length > longest_line) Fail(error::out_of_string_space);
+    if (end == std::string::npos) {
+      // The last byte may be the CR of a pair that the next block completes.
+      searched = length == 0 ? 0 : length - 1;
+      if (Fill()) continue;
+      if (unreadable_) Fail(error::device_io);
+    }
+    std::string line = buffer_.substr(position_, length);
+    position_ = end == std::string::npos ? buffer_.size() : end + 2;
+    return line;
+  }
+}
+
+void Kill(std::string_view path) {
+  if (unlink(HostPath(path).c_str()) == 0) return;
+  throw RuntimeError(NoSuchFile(errno) ? error::file_not_found : error::permission_denied);
+}
+
+void Name(std::string_view from, std::string_view to) {
+  constexpr int file_already_exists = 58;
+  const std::string old_name = HostPath(from);
+  const std::string new_name = HostPath(to);
+  // Not every file system can refuse to replace a file; then a look beforehand has to do.
+  int result = renameat2(AT_FDCWD, old_name.c_str(), AT_FDCWD, new_name.c_str(), RENAME_NOREPLACE);
+  if (result != 0 && (errno == EINVAL || errno == ENOSYS)) {
+    struct stat status {};
+    if (lstat(new_name.c_str(), &status) == 0) throw RuntimeError(file_already_exists);
+    result = rename(old_name.c_str(), new_name.c_str());
+  }
+  if (result == 0) return;
+  if (errno == EEXIST) throw RuntimeError(file_already_exists);
+  throw RuntimeError(NoSuchFile(errno) ? error::file_not_found : error::path_file_access);
+}
+
+}  // namespace files

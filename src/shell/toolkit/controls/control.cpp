@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/controls/control.h"
+
+#include <QEvent>
+#include <QWidget>
+#include <cmath>
+#include <utility>
+
+#include "files/run_time_error.h"
+#include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/windows/form.h"
+
+namespace toolkit {
+
+namespace {
+
+/// Raises GotFocus from the event loop, once the widget has the focus.
+class FocusWatch : public QObject {
+ public:
+  FocusWatch(QWidget* widget, const Event<>& got_focus)
+      : QObject(widget), widget_(widget), got_focus_(got_focus) {}
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn && got_focus_.Handled())
+      QMetaObject::invokeMethod(
+          widget_, [this] { got_focus_.Raise(); }, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QWidget* widget_;
+  const Event<>& got_focus_;
+};
+
+int Pixels(int units, Scale scale) {
+  return scale == Scale::pixels
+             ? units
+             : static_cast<int>(std::floor(static_cast<double>(units) / twips_per_pixel + 0.5));
+}
+
+int Units(int pixels, Scale scale) {
+  return scale == Scale::pixels ? pixels : pixels * twips_per_pixel;
+}
+
+}  // namespace
+
+Control::Control(Container& parent, const ControlSheet& sheet, std::unique_ptr<QWidget> widget)
+    : parent_(parent),
+      widget_(std::move(widget)),
+      index_(sheet.index),
+      tab_index_(sheet.tab_index),
+      place_(sheet.place) {
+  const std::string name =
+      index_ < 0 ? sheet.name : sheet.name + "(" + std::to_string(index_) + ")";
+  widget_->setObjectName(QString::fromStdString(name));
+  widget_->setParent(parent.InnerWidget());
+  widget_->setFocusPolicy(Qt::NoFocus);
+  widget_->installEventFilter(new FocusWatch(widget_.get(), GotFocus));
+  PlaceWidget();
+  Control::FontChanged();
+}
+
+Control::~Control() { parent_.OwningForm().Unregister(*this); }
+
+void Control::Left(int left) {
+  if (left == place_.left) return;
+  place_.left = left;
+  ApplyPlace();
+}
+
+void Control::Top(int top) {
+  if (top == place_.top) return;
+  place_.top = top;
+  ApplyPlace();
+}
+
+void Control::Width(int width) {
+  if (width == place_.width) return;
+  place_.width = width;
+  ApplyPlace();
+}
+
+void Control::Height(int height) {
+  if (height == place_.height) return;
+  place_.height = height;
+  ApplyPlace();
+}
+
+void Control::PlaceWidget() {
+  const Scale scale = parent_.InnerScale();
+  const int left = Pixels(place_.left, scale);
+  const int top = Pixels(place_.top, scale);
+  widget_->setGeometry(left, top, Pixels(place_.left + place_.width, scale) - left,
+                       Pixels(place_.top + place_.height, scale) - top);
+}
+
+void Control::ApplyPlace() {
+  PlaceWidget();
+  PlaceChanged();
+}
+
+void Control::TakeSize(int width_in_pixels, int height_in_pixels) {
+  const Scale scale = parent_.InnerScale();
+  place_.width = Units(width_in_pixels, scale);
+  place_.height = Units(height_in_pixels, scale);
+  ApplyPlace();
+}
+
+void Control::Visible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  widget_->setVisible(visible);
+}
+
+void Control::Enabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  widget_->setEnabled(enabled);
+}
+
+void Control::BringToFront() { widget_->raise(); }
+
+void Control::SetFocus() {
+  if (!widget_->isVisible() || !widget_->isEnabled() || !parent_.OwningForm().Enabled())
+    throw files::RuntimeError(files::error::invalid_call);
+  widget_->setFocus();
+}
+
+void Control::FontName(const std::string& name) {
+  if (name == font_name_) return;
+  font_name_ = name;
+  FontChanged();
+}
+
+void Control::FontSize(double points) {
+  if (points == font_size_) return;
+  font_size_ = points;
+  FontChanged();
+}
+
+void Control::FontBold(bool bold) {
+  if (bold == font_bold_) return;
+  font_bold_ = bold;
+  FontChanged();
+}
+
+void Control::FontItalic(bool italic) {
+  if (italic == font_italic_) return;
+  font_italic_ = italic;
+  FontChanged();
+}
+
+void Control::Charset(int charset) {
+  if (charset == charset_) return;
+  charset_ = charset;
+  FontChanged();
+}
+
+Face& Control::FaceInUse() const {
+  return Face::Of(font_name_, font_size_, font_bold_, font_italic_, charset_);
+}
+
+void Control::FontChanged() { widget_->setFont(FaceInUse().font()); }
+
+void Control::PlaceChanged() {}
+
+void Control::StopTabHere(FocusBy way) {
+  widget_->setFocusPolicy(way == FocusBy::tab_and_click ? Qt::StrongFocus : Qt::TabFocus);
+  parent_.OwningForm().Register(*this, widget_.get());
+}
+
+}  // namespace toolkit

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/toolkit/controls/captioned_control.h"
+
+namespace toolkit {
+
+/// A text that the user cannot change. A CR breaks the line; a longer text wraps and is cut at the
+/// label's height.
+class Label : public CaptionedControl {
+ public:
+  Label(Container& parent, const ControlSheet& sheet);
+
+  /// The label takes the size of its caption, at once.
+  [[nodiscard]] bool AutoSize() const { return auto_size_; }
+  void AutoSize(bool auto_size);
+
+  void Align(Alignment alignment);
+  /// White, with a single border, as a small window of its own.
+  void Boxed();
+
+ protected:
+  void ShowCaption() override;
+
+ private:
+  bool auto_size_ = false;
+};
+
+}  // namespace toolkit

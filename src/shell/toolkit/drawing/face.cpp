@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/drawing/face_p.h"
+
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <memory>
+#include <tuple>
+
+namespace toolkit {
+
+namespace {
+
+constexpr qsizetype texts_kept = 4096;
+
+/// Pixels of a size in points. The design takes 96 dots to the inch, on every screen. The letters
+/// of the national fonts fill less of their size than those of a standard one: the forms leave room
+/// for that, and 14 points of them stand beside 12 of the other.
+int PixelSize(double points, TextCode code) {
+  const bool national = code == TextCode::national_latin || code == TextCode::national_cyrillic;
+  return static_cast<int>(std::lround(points * 96 / 72 * (national ? 0.92 : 1)));
+}
+
+/// The installed font that stands for a font of the logic; the first is the one to have, the others
+/// are taken where it is missing.
+QStringList InstalledFonts(TextCode code) {
+  if (code == TextCode::signs)
+    return {QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans Symbols2")};
+  return {QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
+          QStringLiteral("DejaVu Sans")};
+}
+
+using FaceKey = std::tuple<std::string, double, bool, bool, int>;
+
+std::map<FaceKey, std::unique_ptr<Face>>& Faces() {
+  static std::map<FaceKey, std::unique_ptr<Face>> faces;
+  return faces;
+}
+
+}  // namespace
+
+Face::Face(const QFont& font, TextCode code) : font_(font), metrics_(font), code_(code) {
+  const int caron_top = -metrics_.tightBoundingRect(QStringLiteral("\u017D")).top();
+  room_for_carons_ = std::max(0, caron_top - metrics_.ascent());
+}
+
+Face& Face::Of(const std::string& name, double points, bool bold, bool italic, int charset) {
+  auto& face = Faces()[{name, points, bold, italic, charset}];
+  if (!face) {
+    const TextCode code = TextCodeOf(name, charset);
+    QFont font(InstalledFonts(code));
+    font.setPixelSize(PixelSize(points, code));
+    font.setBold(bold);
+    font.setItalic(italic);
+    font.setHintingPreference(QFont::PreferFullHinting);
+    face = std::make_unique<Face>(font, code);
+  }
+  return *face;
+}
+
+void Face::ForgetAll() { Faces().clear(); }
+
+const Face::LaidOut& Face::LayOut(const std::string& text) {
+  const auto key = QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
+  const auto found = laid_out_.constFind(key);
+  if (found != laid_out_.cend()) return *found;
+  if (laid_out_.size() >= texts_kept) laid_out_.clear();
+
+  const QString shown = Shown(text);
+  LaidOut laid_out;
+  laid_out.text.setTextFormat(Qt::PlainText);
+  laid_out.text.setText(shown);
+  laid_out.text.setPerformanceHint(QStaticText::AggressiveCaching);
+  laid_out.text.prepare(QTransform(), font_);
+  laid_out.width = metrics_.horizontalAdvance(shown);
+  return *laid_out_.insert(QByteArray(text.data(), static_cast<qsizetype>(text.size())), laid_out);
+}
+
+}  // namespace toolkit

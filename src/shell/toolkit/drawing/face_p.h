@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QHash>
+#include <QStaticText>
+#include <string>
+
+#include "shell/toolkit/drawing/text_code_p.h"
+
+namespace toolkit {
+
+/// A font of the logic: an installed font, the code of its characters, and the texts that were
+/// drawn in it lately, laid out once.
+class Face {
+ public:
+  struct LaidOut {
+    QStaticText text;
+    int width = 0;  ///< Pixels.
+  };
+
+  /// The face of a font name, a size in points, and so on. It lives as long as the application.
+  static Face& Of(const std::string& name, double points, bool bold, bool italic, int charset);
+
+  /// Forgets all faces: the application ends.
+  static void ForgetAll();
+
+  [[nodiscard]] const QFont& font() const { return font_; }
+  [[nodiscard]] TextCode code() const { return code_; }
+  [[nodiscard]] int LineHeight() const { return metrics_.height() + room_for_carons_; }
+  /// Pixels that the letters stand lower than the font says, so that the caron of a capital stays
+  /// in its line.
+  [[nodiscard]] int RoomForCarons() const { return room_for_carons_; }
+  [[nodiscard]] QString Shown(const std::string& text) const { return Decode(text, code_); }
+
+  const LaidOut& LayOut(const std::string& text);
+
+  Face(const QFont& font, TextCode code);
+
+ private:
+  QFont font_;
+  QFontMetrics metrics_;
+  TextCode code_;
+  int room_for_carons_;
+  QHash<QByteArray, LaidOut> laid_out_;
+};
+
+}  // namespace toolkit

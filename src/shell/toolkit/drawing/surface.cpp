@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QWheelEvent>
+
+#include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/events/key_codes_p.h"
+#include "shell/toolkit/input/picture_box.h"
+
+namespace toolkit {
+
+namespace {
+
+int ButtonNumber(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return 1;
+    case Qt::RightButton:
+      return 2;
+    default:
+      return 4;
+  }
+}
+
+}  // namespace
+
+Surface::Surface(PictureBox& box) : box_(box) { setAttribute(Qt::WA_OpaquePaintEvent); }
+
+QPainter& Surface::Painter(QPainter::CompositionMode mode) {
+  if (!painter_.isActive()) painter_.begin(&image_);
+  if (painter_.compositionMode() != mode) painter_.setCompositionMode(mode);
+  return painter_;
+}
+
+void Surface::Drawn(const QRect& part) {
+  // What is drawn without persistence goes to the screen at once, as the progress of a load must.
+  if (box_.persistent_ || !isVisible())
+    update(part);
+  else
+    repaint(part);
+}
+
+void Surface::Clear(const QColor& colour) {
+  background_ = colour;
+  Painter(QPainter::CompositionMode_SourceOver).fillRect(rect(), colour);
+  update();
+}
+
+const QImage& Surface::Shown() {
+  if (painter_.isActive()) painter_.end();
+  return image_;
+}
+
+void Surface::AddFrame() {
+  frame_ = new QWidget(parentWidget());
+  frame_->setAutoFillBackground(true);
+  frame_->setPalette(QPalette(Qt::black));
+  frame_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  frame_->lower();
+  frame_->setVisible(!isHidden());
+  PlaceFrame();
+}
+
+void Surface::PlaceFrame() {
+  if (frame_) frame_->setGeometry(geometry().adjusted(-1, -1, 1, 1));
+}
+
+void Surface::Fit() {
+  if (painter_.isActive()) painter_.end();
+  const qreal ratio = devicePixelRatioF();
+  const QSize wanted = size() * ratio;
+  if (image_.size() == wanted && image_.devicePixelRatio() == ratio) return;
+  QImage fitted(wanted, QImage::Format_RGB32);
+  fitted.setDevicePixelRatio(ratio);
+  fitted.fill(background_);
+  if (!image_.isNull()) QPainter(&fitted).drawImage(0, 0, image_);
+  image_ = fitted;
+}
+
+void Surface::paintEvent(QPaintEvent* event) {
+  const qreal ratio = devicePixelRatioF();
+  if (image_.devicePixelRatio() != ratio) Fit();
+  if (painter_.isActive()) painter_.end();
+  const QRectF part = event->rect();
+  QPainter(this).drawImage(part, image_, QRectF(part.topLeft() * ratio, part.size() * ratio));
+}
+
+void Surface::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (frame_) frame_->setVisible(true);
+}
+
+void Surface::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (!box_.persistent_) Clear(background_);
+  if (frame_) frame_->setVisible(!isHidden());
+}
+
+void Surface::mousePressEvent(QMouseEvent* event) {
+  pressed_ = true;
+  const double units = box_.scale_ == Scale::pixels ? 1 : twips_per_pixel;
+  box_.MouseDown.Raise(ButtonNumber(event->button()), ShiftState(event->modifiers()),
+                       event->position().x() * units, event->position().y() * units);
+}
+
+void Surface::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void Surface::wheelEvent(QWheelEvent* event) {
+  if (wheel_bar_ && wheel_bar_->isEnabled()) QApplication::sendEvent(wheel_bar_, event);
+}
+
+void Surface::mouseReleaseEvent(QMouseEvent* event) {
+  const bool clicked = pressed_ && rect().contains(event->position().toPoint());
+  pressed_ = false;
+  if (clicked) box_.Click.Raise();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/input/picture_box.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <numbers>
+
+#include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/input/scroll_bar.h"
+
+namespace toolkit {
+
+namespace {
+
+QColor HostColour(Colour colour) {
+  return {static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
+          static_cast<int>((colour >> 16U) & 0xFFU)};
+}
+
+QRect Corners(int x1, int y1, int x2, int y2) {
+  return QRect(QPoint(x1, y1), QPoint(x2, y2)).normalized();
+}
+
+QPainter::CompositionMode HostMode(DrawMode mode) {
+  return mode == DrawMode::exclusive_or ? QPainter::RasterOp_SourceXorDestination
+                                        : QPainter::CompositionMode_SourceOver;
+}
+
+}  // namespace
+
+PictureBox::PictureBox(Container& parent, const ControlSheet& sheet)
+    : Control(parent, sheet, std::make_unique<Surface>(*this)) {
+  surface().Fit();
+  surface().Clear(HostColour(back_color_));
+}
+
+Surface& PictureBox::surface() const { return *static_cast<Surface*>(widget()); }
+
+int PictureBox::Pixels(int units) const {
+  return scale_ == Scale::pixels ? units : units / twips_per_pixel;
+}
+
+void PictureBox::Picture(const toolkit::Picture& picture) {
+  picture_ = picture;
+  if (auto_size_ && !picture.Empty()) TakeSize(picture.image().width(), picture.image().height());
+  surface().Clear(HostColour(back_color_));
+  if (!picture.Empty()) PaintPicture(picture, 0, 0);
+}
+
+void PictureBox::Framed() { surface().AddFrame(); }
+
+void PictureBox::WheelMoves(ScrollBar& bar) { surface().SendWheelTo(bar.widget()); }
+
+void PictureBox::BackColor(Colour colour) {
+  back_color_ = colour;
+  surface().Clear(HostColour(colour));
+}
+
+void PictureBox::Line(int x1, int y1, int x2, int y2, Colour colour) {
+  const QPoint from(Pixels(x1), Pixels(y1));
+  const QPoint to(Pixels(x2), Pixels(y2));
+  if (from.x() == to.x() || from.y() == to.y()) {
+    // A filled line covers whole units on a dense display too, where a pen is off by half of one.
+    FilledBox(x1, y1, x2, y2, colour);
+    return;
+  }
+  QPainter& painter = surface().Painter(HostMode(draw_mode_));
+  painter.setPen(HostColour(colour));
+  painter.drawLine(from, to);
+  surface().Drawn(QRect(from, to).normalized());
+}
+
+void PictureBox::Box(int x1, int y1, int x2, int y2, Colour colour) {
+  const QRect box = Corners(Pixels(x1), Pixels(y1), Pixels(x2), Pixels(y2));
+  QPainter& painter = surface().Painter(HostMode(draw_mode_));
+  painter.setPen(HostColour(colour));
+  painter.drawRect(box.adjusted(0, 0, -1, -1));
+  surface().Drawn(box);
+}
+
+void PictureBox::FilledBox(int x1, int y1, int x2, int y2, Colour colour) {
+  const QRect box = Corners(Pixels(x1), Pixels(y1), Pixels(x2), Pixels(y2));
+  surface().Painter(HostMode(draw_mode_)).fillRect(box, HostColour(colour));
+  surface().Drawn(box);
+}
+
+void PictureBox::Circle(int x, int y, int radius, float start, float end) {
+  constexpr double sixteenths_of_a_degree = 16 * 180 / std::numbers::pi;
+  constexpr int whole_circle = 360 * 16;
+  const int from = qRound(static_cast<double>(start) * sixteenths_of_a_degree);
+  const int to = qRound(static_cast<double>(end) * sixteenths_of_a_degree);
+  const int r = Pixels(radius);
+  const QRect around(Pixels(x) - r, Pixels(y) - r, 2 * r, 2 * r);
+  QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
+  painter.setPen(HostColour(fore_color_));
+  painter.drawArc(around, from, ((to - from) % whole_circle + whole_circle) % whole_circle);
+  surface().Drawn(around.adjusted(0, 0, 1, 1));
+}
+
+void PictureBox::Print(const std::string& text) {
+  Face& face = FaceInUse();
+  const Face::LaidOut& laid_out = face.LayOut(text);
+  const QPoint at(Pixels(current_x_), Pixels(current_y_) + face.RoomForCarons());
+  QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
+  painter.setFont(face.font());
+  painter.setPen(HostColour(fore_color_));
+  painter.drawStaticText(at, laid_out.text);
+  surface().Drawn(QRect(at, QSize(laid_out.width + 2, face.LineHeight())));
+}
+
+void PictureBox::PaintPicture(const toolkit::Picture& picture, int x, int y) {
+  const QPoint at(Pixels(x), Pixels(y));
+  surface().Painter(QPainter::CompositionMode_SourceOver).drawImage(at, picture.image());
+  surface().Drawn(QRect(at, picture.image().size()));
+}
+
+void PictureBox::PlaceChanged() {
+  surface().Fit();
+  surface().PlaceFrame();
+}
+
+}  // namespace toolkit

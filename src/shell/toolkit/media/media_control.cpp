@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/media/media_control.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QStyle>
+#include <QToolButton>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "files/host_paths.h"
+#include "files/run_time_error.h"
+#include "shell/toolkit/media/media_player_p.h"
+#include "shell/toolkit/media/window_handles_p.h"
+#include "shell/toolkit/windows/application.h"
+
+namespace toolkit {
+
+namespace {
+
+using State = MediaPlayer::State;
+
+/// A device, and the marks by which it knows its files: at the beginning, and at byte 8.
+struct Device {
+  std::string_view type;
+  std::string_view mark;
+  std::string_view kind;
+  bool shows_video;
+};
+
+constexpr Device devices[] = {
+    {"WaveAudio", "RIFF", "WAVE", false},
+    {"Sequencer", "MThd", "", false},
+    {"AVIVideo", "RIFF", "AVI ", true},
+};
+
+/// Files come from strangers, and the host's player knows kinds that fetch others from afar: only
+/// what the device is meant for reaches it.
+bool Knows(const Device& device, const QString& host_path) {
+  constexpr qsizetype kind_at = 8;
+  QFile file(host_path);
+  if (!file.open(QFile::ReadOnly)) return false;
+  const QByteArray head = file.read(kind_at + 4);
+  const auto begins = [](const QByteArray& bytes, std::string_view mark) {
+    return bytes.startsWith(QByteArrayView(mark.data(), static_cast<qsizetype>(mark.size())));
+  };
+  return begins(head, device.mark) && begins(head.mid(kind_at), device.kind);
+}
+
+const Device* DeviceOfType(std::string_view type) {
+  const auto* found = std::ranges::find(devices, type, &Device::type);
+  return found == std::end(devices) ? nullptr : found;
+}
+
+QString HostFile(const std::string& path) {
+  QString host_path = QFile::decodeName(files::HostPath(path).c_str());
+  if (!QFileInfo(host_path).isFile()) throw files::RuntimeError(files::error::file_not_found);
+  return host_path;
+}
+
+}  // namespace
+
+/// The buttons of a media control.
+class MediaBar : public QWidget {
+ public:
+  MediaBar() {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    Add(play, QStyle::SP_MediaPlay, QStringLiteral("play"));
+    Add(pause, QStyle::SP_MediaPause, QStringLiteral("pause"));
+    Add(stop, QStyle::SP_MediaStop, QStringLiteral("stop"));
+    ShowState(State::closed);
+  }
+
+  void ShowState(State state) {
+    play.setEnabled(state == State::stopped || state == State::paused);
+    pause.setEnabled(state == State::playing);
+    stop.setEnabled(state == State::playing || state == State::paused);
+  }
+
+  QToolButton play;
+  QToolButton pause;
+  QToolButton stop;
+
+ private:
+  void Add(QToolButton& button, QStyle::StandardPixmap sign, const QString& name) {
+    button.setObjectName(name);
+    button.setAccessibleName(name);
+    button.setIcon(style()->standardIcon(sign));
+    button.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    button.setFocusPolicy(Qt::NoFocus);
+    layout()->addWidget(&button);
+  }
+};
+
+MediaControl::MediaControl(Container& parent, const ControlSheet& sheet)
+    : Control(parent, sheet, std::make_unique<MediaBar>()) {
+  const auto on_click = [this](QToolButton& button, void (MediaPlayer::*action)()) {
+    QObject::connect(&button, &QToolButton::clicked, &button, [this, action] {
+      if (player_) (*player_.*action)();
+    });
+  };
+  on_click(bar().play, &MediaPlayer::Play);
+  on_click(bar().pause, &MediaPlayer::Pause);
+  on_click(bar().stop, &MediaPlayer::Stop);
+}
+
+MediaControl::~MediaControl() { Close(); }
+
+MediaBar& MediaControl::bar() const { return *static_cast<MediaBar*>(widget()); }
+
+void MediaControl::Command(std::string_view command) {
+  if (command == "Open")
+    Open();
+  else if (command == "Play")
+    Play();
+  else if (command == "close")
+    Close();
+  else
+    throw files::RuntimeError(files::error::invalid_call);
+}
+
+void MediaControl::Open() {
+  Close();
+  const QString host_path = HostFile(file_name_);
+  const Device* device = DeviceOfType(device_type_);
+  if (device == nullptr || !Knows(*device, host_path))
+    throw files::RuntimeError(files::error::device_unavailable);
+
+  auto* display = device->shows_video ? dynamic_cast<Surface*>(WidgetOf(display_)) : nullptr;
+  const auto player = std::make_shared<MediaPlayer>(display);
+  player_ = player;
+  player->state_changed = [this] { bar().ShowState(player_->state()); };
+  player->finished = [this] { PlayEnded(); };
+  // An event that comes during the wait may close the device, or end the program.
+  const bool ready = player->Open(host_path);
+  if (Ended()) throw ProgramEnd{};
+  if (player_ == player && !ready) Close();
+  if (player_ != player) throw files::RuntimeError(files::error::device_unavailable);
+  bar().ShowState(player->state());
+}
+
+void MediaControl::Play() {
+  if (!player_) throw files::RuntimeError(files::error::device_unavailable);
+  player_->Play();
+}
+
+void MediaControl::Close() {
+  if (!player_) return;
+  const auto closed = std::exchange(player_, nullptr);
+  closed->state_changed = [] {};
+  closed->Close();
+  bar().ShowState(State::closed);
+}
+
+void MediaControl::PlayEnded() {
+  // The handler will close the player, which is still at work when it tells this.
+  const std::weak_ptr<MediaPlayer> ended = player_;
+  QMetaObject::invokeMethod(
+      widget(),
+      [this, ended] {
+        if (!ended.expired()) Done.Raise(1);
+      },
+      Qt::QueuedConnection);
+}
+
+}  // namespace toolkit

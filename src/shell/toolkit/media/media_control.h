@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "shell/toolkit/controls/control.h"
+
+namespace toolkit {
+
+class MediaBar;
+class MediaPlayer;
+
+/// A player of sound, music and video, with a bar of the buttons play, pause and stop.
+class MediaControl : public Control {
+ public:
+  MediaControl(Container& parent, const ControlSheet& sheet);
+  ~MediaControl() override;
+
+  // Set before the command "Open".
+  [[nodiscard]] const std::string& DeviceType() const { return device_type_; }
+  /// "WaveAudio", "Sequencer" or "AVIVideo".
+  void DeviceType(const std::string& type) { device_type_ = type; }
+  [[nodiscard]] const std::string& FileName() const { return file_name_; }
+  void FileName(const std::string& path) { file_name_ = path; }
+  [[nodiscard]] bool Notify() const { return notify_; }
+  void Notify(bool notify) { notify_ = notify; }
+  [[nodiscard]] bool Wait() const { return wait_; }
+  void Wait(bool wait) { wait_ = wait; }
+  [[nodiscard]] bool Shareable() const { return shareable_; }
+  void Shareable(bool shareable) { shareable_ = shareable; }
+  /// The picture that carries the video, by its handle.
+  [[nodiscard]] int hWndDisplay() const { return display_; }
+  void hWndDisplay(int handle) { display_ = handle; }
+
+  /// "Open" gets the device ready on the start of the file. It waits until then, for a few seconds
+  /// at most, and takes no input of the user meanwhile. Error 53 if there is no such file, 68 if
+  /// the device cannot play it; ends the procedure that called it if the program ends meanwhile.
+  /// "Play" starts playing and returns. Error 68 if nothing is open.
+  /// "close" stops and lets go of the file; nothing need be open.
+  /// Error 5 for any other command.
+  void Command(std::string_view command);
+
+  /// A play has come to an end: of itself, by the button stop, or by a failure. Comes from the
+  /// event loop, and not after "close". The argument is always 1.
+  Event<int> Done;
+
+ private:
+  void Open();
+  void Play();
+  void Close();
+  void PlayEnded();
+  [[nodiscard]] MediaBar& bar() const;
+
+  std::string device_type_;
+  std::string file_name_;
+  bool notify_ = false;
+  bool wait_ = false;
+  bool shareable_ = false;
+  int display_ = 0;
+  std::shared_ptr<MediaPlayer> player_;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/windows/application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QThread>
+#include <csignal>
+
+#include "files/host_paths.h"
+#include "shell/toolkit/desktop/browser_host.h"
+#include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/media/window_handles_p.h"
+#include "shell/toolkit/windows/end_requests_p.h"
+#include "shell/toolkit/windows/form.h"
+
+namespace toolkit {
+
+namespace {
+
+bool ended = false;
+int mouse_pointer = 0;
+std::string program_folder;
+
+constexpr int hourglass = 11;
+
+QPalette PeriodPalette() {
+  const QColor face(0xC0, 0xC0, 0xC0);
+  QPalette palette(face, face);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::ButtonText, Qt::black);
+  palette.setColor(QPalette::Highlight, QColor(0, 0, 0x80));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Disabled, QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x80, 0x80, 0x80));
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
+  return palette;
+}
+
+// A release is no input of its own: a bar that is held while its form is disabled must see it.
+bool IsUserInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Keeps the user's input from disabled forms, before it can even move the focus.
+class GatedApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    if (IsUserInput(event->type())) {
+      const auto* widget = qobject_cast<QWidget*>(receiver);
+      if (widget != nullptr && !Form::TakesInput(widget->window())) return true;
+    }
+    return QApplication::notify(receiver, event);
+  }
+};
+
+/// Whether files can be made in the folder.
+bool CanBeWritten(const QString& folder) { return QFileInfo(folder).isWritable(); }
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) {
+  // A write beyond the limit of a file's size is a failed write, and not the end of the program.
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+  // Nothing here is drawn by a graphics card, and looking for one takes time.
+  if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) qputenv("QT_XCB_GL_INTEGRATION", "none");
+  QApplication::setDesktopSettingsAware(false);
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+  application_ = std::make_unique<GatedApplication>(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("kalvon"));
+  QApplication::setPalette(PeriodPalette());
+  QApplication::setFont(Face::Of("MS Sans Serif", 8.25, false, false, 0).font());
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Application::~Application() { Face::ForgetAll(); }
+
+int Application::Run() {
+  if (Ended()) return 0;
+  const EndRequests end_requests;
+  return QApplication::exec();
+}
+
+void End() {
+  ended = true;
+  // Without a loop to leave, the host would leave the next one at once.
+  if (QThread::currentThread()->loopLevel() > 0) QApplication::exit(0);
+  throw ProgramEnd{};
+}
+
+bool Ended() { return ended; }
+
+void Restart() { ended = false; }
+
+void DoEvents() {
+  QApplication::processEvents();
+  if (ended) throw ProgramEnd{};
+}
+
+void MsgBox(const std::string& text) {
+  QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
+                  QString::fromStdString(text), QMessageBox::Ok);
+  box.exec();
+  if (ended) throw ProgramEnd{};
+}
+
+void Shell(const std::string& command_line) { CurrentBrowserHost().Start(command_line); }
+
+int GetFocus() { return HandleOf(QApplication::focusWidget()); }
+
+std::string App::Path() {
+  if (!program_folder.empty()) return program_folder;
+  QString folder = QApplication::applicationDirPath();
+  if (!CanBeWritten(folder)) {
+    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+  }
+  return files::LogicPath(QFile::encodeName(folder).toStdString());
+}
+
+void App::Path(const std::string& path) { program_folder = path; }
+
+int Screen::Width() {
+  return QGuiApplication::primaryScreen()->geometry().width() * twips_per_pixel;
+}
+
+int Screen::Height() {
+  return QGuiApplication::primaryScreen()->geometry().height() * twips_per_pixel;
+}
+
+int Screen::MousePointer() { return mouse_pointer; }
+
+void Screen::MousePointer(int pointer) {
+  if (pointer == mouse_pointer) return;
+  mouse_pointer = pointer;
+  if (pointer == hourglass)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "shell/toolkit/controls/control.h"
+
+namespace toolkit {
+
+class FormWidget;
+
+enum class Border {
+  sizeable,     ///< The user can drag it; the form has a close box.
+  fixed_dialog  ///< Of one size, with no close box; it stays above the start form.
+};
+
+/// A row of the form sheet for the form itself. The size is that of its inner area, in twips.
+struct FormSheet {
+  std::string name;
+  std::string caption;
+  Border border = Border::sizeable;
+  Scale scale = Scale::twips;
+  int inner_width = 0;
+  int inner_height = 0;
+};
+
+/// A window. Outer sizes count a nominal window frame of the period, whatever the window manager
+/// draws, so that they are the same on every desktop.
+class Form : public Container {
+ public:
+  ~Form() override;
+
+  // Outer position and size in twips on the screen.
+  [[nodiscard]] int Left() const { return left_; }
+  void Left(int twips);
+  [[nodiscard]] int Top() const { return top_; }
+  void Top(int twips);
+  [[nodiscard]] int Width() const;
+  void Width(int twips);
+  [[nodiscard]] int Height() const;
+  void Height(int twips);
+
+  [[nodiscard]] const std::string& Caption() const { return caption_; }
+  void Caption(const std::string& caption);
+
+  /// A disabled form takes no mouse, key or close-box input and looks as before.
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  void Enabled(bool enabled) { enabled_ = enabled; }
+
+  /// Shows the form, or brings it to the front. Returns at once.
+  void Show();
+  void Hide();
+  [[nodiscard]] bool Visible() const;
+
+  /// The icon of the window, one of the pictures that are built in.
+  void Icon(const std::string& picture_name);
+
+  Event<> Resize;
+  /// The user closes the form. Setting the argument keeps it open.
+  Event<bool&> Unload;
+
+  [[nodiscard]] Scale InnerScale() const override { return scale_; }
+  QWidget* InnerWidget() override;
+  Form& OwningForm() override { return *this; }
+
+  /// Called by each control at which the Tab key stops.
+  void Register(const Control& control, QWidget* tab_stop);
+  void Unregister(const Control& control);
+
+  /// Closes the start form as its close box does, also while it is disabled: the desktop ends the
+  /// program.
+  static void CloseStartForm();
+
+  /// Whether the window is no form, or a form that is enabled.
+  static bool TakesInput(const QWidget* window);
+
+ protected:
+  explicit Form(const FormSheet& sheet);
+
+ private:
+  friend class FormWidget;
+  struct TabStop {
+    const Control* control;
+    QWidget* widget;
+  };
+  void ChainTabStops();
+  void TakeSize(int width, int height);
+
+  std::unique_ptr<FormWidget> widget_;
+  std::vector<TabStop> tab_stops_;
+  std::string caption_;
+  Border border_;
+  Scale scale_;
+  int left_ = 0;
+  int top_ = 0;
+  bool enabled_ = true;
+};
+
+/// A form that is loaded, hidden, at its first touch and lives until it is unloaded.
+template <typename Kind>
+class FormHandle {
+ public:
+  Kind& operator*() {
+    if (!form_) {
+      form_ = std::make_unique<Kind>();
+      Load.Raise(*form_);
+    }
+    return *form_;
+  }
+  Kind* operator->() { return &**this; }
+
+  [[nodiscard]] bool Loaded() const { return form_ != nullptr; }
+
+  void Unload() { form_.reset(); }
+
+  /// Raised once the form is made, before its first use.
+  Event<Kind&> Load;
+
+ private:
+  std::unique_ptr<Kind> form_;
+};
+
+}  // namespace toolkit

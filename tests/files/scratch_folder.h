@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+#include "files/host_paths.h"
+
+/// A folder of its own for a test, removed with all that is in it.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no folder " + path_);
+  }
+  ~ScratchFolder() { std::filesystem::remove_all(path_); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  [[nodiscard]] const std::string& HostPath() const { return path_; }
+  /// A host path below the folder.
+  [[nodiscard]] std::string Host(const std::string& name) const { return path_ + '/' + name; }
+  /// A path of the logic below the folder.
+  [[nodiscard]] std::string Logic(const std::string& name = "") const {
+    const std::string folder = files::LogicPath(path_);
+    return name.empty() ? folder : files::WithBackslash(folder) + name;
+  }
+
+  void Put(const std::string& name, const std::string& text) const {
+    std::ofstream(Host(name), std::ios::binary) << text;
+  }
+  [[nodiscard]] std::string Get(const std::string& name) const {
+    std::ifstream file(Host(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+ private:
+  std::string path_ = (std::filesystem::temp_directory_path() / "kalvon-XXXXXX").string();
+};
