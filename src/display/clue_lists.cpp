@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
@@ -44,20 +43,19 @@ void ClearPage(int strana) {
 
 /// Adds the clue that starts in a cell to the page of a list.
 void TakeClue(int strana, int x, int y) {
-  const Clue clue = ReadClue(std::as_const(glavni).ukr_polja(x, y, 2), strana);
+  const Clue clue = ReadClue(glavni.ukr_polja(x, y, 2), strana);
   const int n = CluesInList(strana) + 1;
   CluesInList(strana) = n;
   auto& lista = glavni.lista;
-  lista(n, 1, strana) = std::to_string(std::as_const(glavni).rec_broj(x, y)) + ": ";
-  lista(n, 1, strana) += clue.text;
-  lista(n, 2, strana) = std::to_string(x);
-  lista(n, 3, strana) = std::to_string(y);
-  lista(n, 4, strana) = "1";
-  lista(n, 5, strana) = Trimmed(clue.media);
+  lista.Mutable(n, 1, strana) = std::to_string(glavni.rec_broj(x, y)) + ": ";
+  lista.Mutable(n, 1, strana) += clue.text;
+  lista.Mutable(n, 2, strana) = std::to_string(x);
+  lista.Mutable(n, 3, strana) = std::to_string(y);
+  lista.Mutable(n, 4, strana) = "1";
+  lista.Mutable(n, 5, strana) = Trimmed(clue.media);
   konvertuj_pitanje(strana);
-  const int rows = PrintClue(strana, std::as_const(glavni).lista(n, 1, strana),
-                             std::as_const(glavni).lista(n, 5, strana));
-  lista(n, 4, strana) = std::to_string(rows);
+  const int rows = PrintClue(strana, glavni.lista(n, 1, strana), glavni.lista(n, 5, strana));
+  lista.Mutable(n, 4, strana) = std::to_string(rows);
 }
 
 /// Goes to the next cell in the order in which clues are numbered.
@@ -73,8 +71,8 @@ void MoveOn(int& x, int& y) {
 
 /// The clue at a place of a list, from 1; 0 if the list is shorter.
 int ClueAt(int place, int strana) {
-  for (int n = 1; n <= std::as_const(glavni).broj_pitanja; ++n)
-    if (BelongsTo(std::as_const(glavni).pitanja(n, 1), strana) && --place == 0) return n;
+  for (int n = 1; n <= glavni.broj_pitanja; ++n)
+    if (BelongsTo(glavni.pitanja(n, 1), strana) && --place == 0) return n;
   return 0;
 }
 
@@ -90,8 +88,7 @@ void crtaj_pitanja(int x, int y) {
   const Int16 cells = glavni.ukr_sirina * glavni.ukr_visina;
   for (int step = 0; step < cells && std::ranges::any_of(sides, HasRoom); ++step) {
     for (const int strana : sides)
-      if (HasRoom(strana) && StartsWord(std::as_const(glavni).ukr_polja(x, y, 2), strana))
-        TakeClue(strana, x, y);
+      if (HasRoom(strana) && StartsWord(glavni.ukr_polja(x, y, 2), strana)) TakeClue(strana, x, y);
     MoveOn(x, y);
     if (x > glavni.ukr_sirina || y > glavni.ukr_visina) break;
   }
@@ -106,7 +103,7 @@ void skrol_pitanja(int k) {
   const int head = ClueAt(value, strana);
   HandledScroll(strana) = value;
   if (head == 0) return;
-  crtaj_pitanja(std::as_const(glavni).pitanja(head, 2), std::as_const(glavni).pitanja(head, 3));
+  crtaj_pitanja(glavni.pitanja(head, 2), glavni.pitanja(head, 3));
   if (glavni.sel_broj != 0 && glavni.sel_strana == strana) MarkSelectedClue(strana);
 }
 

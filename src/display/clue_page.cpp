@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "display/clue_page.h"
 
-#include <utility>
-
 namespace kalvon {
 
 std::vector<PageClue> CluesOnPage(int strana) {
-  const auto& lista = std::as_const(glavni).lista;
+  const auto& lista = glavni.lista;
   std::vector<PageClue> clues;
   int rows = 0;
   for (int n = 1; n <= CluesInList(strana); ++n) {

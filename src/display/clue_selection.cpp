@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
@@ -30,8 +29,8 @@ int RowAt(double y) {
 /// else changes where there is no clue.
 std::optional<PageClue> TakeClickedClue(int strana, int red) {
   const auto clue = ClueOfRow(strana, red);
-  glavni.media_pitanje = clue ? std::as_const(glavni).lista(clue->n, 1, strana) : "0";
-  if (clue) glavni.media_fajl = std::as_const(glavni).lista(clue->n, 5, strana);
+  glavni.media_pitanje = clue ? glavni.lista(clue->n, 1, strana) : "0";
+  if (clue) glavni.media_fajl = glavni.lista(clue->n, 5, strana);
   return clue;
 }
 
@@ -86,8 +85,8 @@ void klik_pitanje(int index, int button, double /*x*/, double y) {
     files::pass_over([] { frm_glavni->txt_rec(0).SetFocus(); });
     return;
   }
-  const int x1 = std::as_const(glavni).pitanja(clue->number, 2);
-  const int y1 = std::as_const(glavni).pitanja(clue->number, 3);
+  const int x1 = glavni.pitanja(clue->number, 2);
+  const int y1 = glavni.pitanja(clue->number, 3);
 
   glavni.prelaz_smer = glavni.smer;
   if (glavni.pret_x2 > 0 && glavni.pret_y2 > 0) glavni.prelaz_oba = 1;

@@ -3,7 +3,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "display/fonts.h"
 #include "display/grid_geometry.h"
@@ -124,8 +123,8 @@ void DrawCell(int i, int j) {
     DrawGrayBlock(cell);
     return;
   }
-  pass_over([&] { DrawContents(cell, std::as_const(glavni).ukr_polja(x, y, 1)); });
-  pass_over([&] { DrawNumber(cell, std::as_const(glavni).rec_broj(x, y)); });
+  pass_over([&] { DrawContents(cell, glavni.ukr_polja(x, y, 1)); });
+  pass_over([&] { DrawNumber(cell, glavni.rec_broj(x, y)); });
 }
 
 }  // namespace kalvon

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "display/word_highlight.h"
 
-#include <utility>
-
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
 #include "display/grid_geometry.h"
@@ -47,7 +45,7 @@ void SettleDirection() {
 int PlaceInList(int n, int strana) {
   int place = 0;
   for (int i = 1; i <= n; ++i)
-    if (BelongsTo(std::as_const(glavni).pitanja(i, 1), strana)) ++place;
+    if (BelongsTo(glavni.pitanja(i, 1), strana)) ++place;
   return place;
 }
 
@@ -55,7 +53,7 @@ int PlaceInList(int n, int strana) {
 /// a word start has no clue: its list stays where it is, and no bar stands.
 void BringClueToHead() {
   const int strana = glavni.smer;
-  const int n = std::as_const(glavni).rec_broj(glavni.rec_x1, glavni.rec_y1);
+  const int n = glavni.rec_broj(glavni.rec_x1, glavni.rec_y1);
   glavni.lista_strana = strana;
   // A page that moves is printed without a bar, one that stays may still have an older one.
   glavni.sel_broj = 0;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "document/crossword_numbering.h"
 
-#include <utility>
-
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
 #include "document/installments.h"
@@ -23,15 +21,15 @@ void Count(int kind, ClueCounts& counts) {
 }
 
 void NumberCell(int x, int y, ClueCounts& counts) {
-  const std::string& attributes = std::as_const(glavni).ukr_polja(x, y, 2);
+  const std::string& attributes = glavni.ukr_polja(x, y, 2);
   const int kind =
       (StartsWord(attributes, 1) ? across : 0) + (StartsWord(attributes, 2) ? down : 0);
   if (kind == 0) return;
   const int number = ++glavni.broj_pitanja;
-  glavni.rec_broj(x, y) = number;
-  glavni.pitanja(number, 1) = kind;
-  glavni.pitanja(number, 2) = x;
-  glavni.pitanja(number, 3) = y;
+  glavni.rec_broj.Mutable(x, y) = number;
+  glavni.pitanja.Mutable(number, 1) = kind;
+  glavni.pitanja.Mutable(number, 2) = x;
+  glavni.pitanja.Mutable(number, 3) = y;
   Count(kind, counts);
 }
 
@@ -56,7 +54,7 @@ FirstClue FindFirstClue() {
   FirstClue first{.number = no_clue, .x = 1, .y = 1};
   for (int y = glavni.pogled_y; y < glavni.pogled_y + view_cells && y <= glavni.ukr_visina; ++y) {
     for (int x = glavni.pogled_x; x < glavni.pogled_x + view_cells && x <= glavni.ukr_sirina; ++x) {
-      const int number = std::as_const(glavni).rec_broj(x, y);
+      const int number = glavni.rec_broj(x, y);
       if (number != 0 && number < first.number) first = {number, x, y};
     }
   }
@@ -67,7 +65,7 @@ ClueCounts PlaceOfClue(int number) {
   ClueCounts place;
   int kind = 0;
   for (int n = 1; n <= number; ++n) {
-    kind = std::as_const(glavni).pitanja(n, 1);
+    kind = glavni.pitanja(n, 1);
     Count(kind, place);
   }
   if (kind == across) ++place.down;

@@ -2,7 +2,6 @@
 #include "document/crossword_save.h"
 
 #include <string>
-#include <utility>
 
 #include "document/crossword_state.h"
 #include "document/installments.h"
@@ -39,7 +38,7 @@ void WriteCells(files::FileRewrite& file, int installment) {
 
 /// Rewrites the file of an installment, unless it was missing when the crossword was read.
 void Rewrite(int installment) {
-  if (std::as_const(glavni).nast_ucitan(installment) < 0) return;
+  if (glavni.nast_ucitan(installment) < 0) return;
   const std::string path = InstallmentPath(installment, "qvm");
   const std::string temporary = InstallmentPath(installment, "qvt");
   // The rewriting waits for another program that rewrites the same file, so it begins before the

@@ -47,16 +47,16 @@ class Table {
       if (b.highest < b.lowest) throw files::RuntimeError(files::error::subscript_out_of_range);
   }
 
-  /// Reads an element; one that was never written is empty.
+  /// An element; one that was never written is empty.
   template <typename... Indexes>
   const Element& operator()(Indexes... indexes) const {
     const std::size_t place = Place({static_cast<int>(indexes)...});
     return elements_.empty() ? Empty() : elements_[place];
   }
 
-  /// Names an element for writing.
+  /// An element, to be written.
   template <typename... Indexes>
-  Element& operator()(Indexes... indexes) {
+  Element& Mutable(Indexes... indexes) {
     const std::size_t place = Place({static_cast<int>(indexes)...});
     if (elements_.empty()) elements_.resize(Size());
     return elements_[place];

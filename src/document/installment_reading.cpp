@@ -45,12 +45,12 @@ void CountCell(std::string_view cell) {
 }
 
 void ReadCell(files::TextReader& file, int x, int y, bool counted) {
-  std::string& cell = glavni.ukr_polja(x, y, 1);
+  std::string& cell = glavni.ukr_polja.Mutable(x, y, 1);
   cell = file.Line();
   if (counted) CountCell(cell);
   std::string attributes = file.Line();
   std::ranges::replace(attributes, ';', ',');
-  glavni.ukr_polja(x, y, 2) = std::move(attributes);
+  glavni.ukr_polja.Mutable(x, y, 2) = std::move(attributes);
 }
 
 /// Reads the cells up to the end of the file and returns how many of them are the installment's
@@ -73,7 +73,7 @@ int ReadFile(const std::string& path, int installment, int joined) {
   files::TextReader file(path);
   Header header = ReadHeader(file);
   for (std::size_t line = 0; line < header.size(); ++line) ProgressStep();
-  glavni.media_sadrzaj(installment) = std::move(header.front());
+  glavni.media_sadrzaj.Mutable(installment) = std::move(header.front());
   return ReadCells(file, installment, joined);
 }
 
@@ -82,8 +82,8 @@ void FillMissing(int installment, int joined) {
   for (int cell = glavni.nast_sirina * glavni.nast_visina; cell > 0; --cell) {
     walk.Next();
     ProgressStep();
-    glavni.ukr_polja(walk.x(), walk.y(), 1) = missing_cell;
-    glavni.ukr_polja(walk.x(), walk.y(), 2).clear();
+    glavni.ukr_polja.Mutable(walk.x(), walk.y(), 1) = missing_cell;
+    glavni.ukr_polja.Mutable(walk.x(), walk.y(), 2).clear();
   }
 }
 
@@ -100,10 +100,10 @@ InstallmentsRead ReadInstallments(const std::vector<std::string>& folder, int jo
   for (int i = 1; i <= last; ++i) {
     const auto name = present.find(NameOf(i));
     if (name != present.end()) {
-      read.number(i) = i;
-      read.cells(i) = ReadFile(path + name->second, i, joined);
+      read.number.Mutable(i) = i;
+      read.cells.Mutable(i) = ReadFile(path + name->second, i, joined);
     } else {
-      read.number(i) = -1;
+      read.number.Mutable(i) = -1;
       FillMissing(i, joined);
     }
   }

@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "document/crossword_state.h"
 #include "document/media_file.h"
@@ -111,7 +110,7 @@ void Extract() {
   std::string pack_path;
   files::pass_over([&] { pack_path = InstallmentPath(installment, "qvd"); });
   std::string_view table;
-  files::pass_over([&] { table = std::as_const(glavni).media_sadrzaj(installment); });
+  files::pass_over([&] { table = glavni.media_sadrzaj(installment); });
   const auto entry = FindInTable(table, glavni.media_fajl);
   if (entry) files::pass_over([&] { CutOut(pack_path, *entry); });
 }

@@ -102,7 +102,7 @@ void slovo_veliko(std::string_view letter) {
 
 void konvertuj_pitanje(int strana) {
   const int row = strana == 1 ? glavni.lista_n1 : glavni.lista_n2;
-  std::string& text = glavni.lista(row, 1, strana);
+  std::string& text = glavni.lista.Mutable(row, 1, strana);
   text = Converted(text, slovo_veliko);
   text = Converted(text, slovo_digraf);
   text = Converted(text, slovo_cirilica);

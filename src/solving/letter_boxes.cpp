@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "document/crossword_state.h"
 #include "files/run_time_error.h"
@@ -18,7 +17,7 @@ using files::pass_over;
 namespace {
 
 void TakeLetter(const GridCell& place) {
-  const std::string& cell = std::as_const(glavni).ukr_polja(place.x, place.y, 1);
+  const std::string& cell = glavni.ukr_polja(place.x, place.y, 1);
   if (!IsLetterCell(cell)) return;
   const std::string_view letter = UserLetter(cell);
   glavni.rec_tekst += letter.empty() ? "_" : letter;

@@ -2,7 +2,6 @@
 #include "solving/puzzle_commands.h"
 
 #include <string>
-#include <utility>
 
 #include "display/grid_view.h"
 #include "display/word_highlight.h"
@@ -18,7 +17,7 @@ namespace {
 /// Applies a change to each letter cell of the selected word.
 void ChangeWord(void (*change)(std::string& cell)) {
   for (const auto [x, y] : SelectedCells()) {
-    std::string& cell = glavni.ukr_polja(x, y, 1);
+    std::string& cell = glavni.ukr_polja.Mutable(x, y, 1);
     if (IsLetterCell(cell)) change(cell);
   }
 }
@@ -71,10 +70,10 @@ void operacija_celine(int operation) {
   std::int32_t wrong_letters = 0;
   for (int x = 1; x <= glavni.ukr_sirina; ++x) {
     for (int y = 1; y <= glavni.ukr_visina; ++y) {
-      const std::string& cell = std::as_const(glavni).ukr_polja(x, y, 1);
+      const std::string& cell = glavni.ukr_polja(x, y, 1);
       if (!IsLetterCell(cell)) continue;
       if (IsWrong(cell)) ++wrong_letters;
-      Change(glavni.ukr_polja(x, y, 1), operation);
+      Change(glavni.ukr_polja.Mutable(x, y, 1), operation);
     }
   }
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "display/grid_view.h"
 #include "display/word_highlight.h"
@@ -54,7 +53,7 @@ void WriteBack() {
   const std::size_t letters = std::min(glavni.rec_tekst.size(), glavni.rec_polja.size());
   for (std::size_t i = 0; i < letters; ++i) {
     const auto [x, y] = glavni.rec_polja[i];
-    std::string& cell = glavni.ukr_polja(x, y, 1);
+    std::string& cell = glavni.ukr_polja.Mutable(x, y, 1);
     const char letter = glavni.rec_tekst[i];
     if (!IsLetterCell(cell)) continue;
     if (letter == '_') {

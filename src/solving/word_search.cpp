@@ -2,7 +2,6 @@
 #include "solving/word_search.h"
 
 #include <string>
-#include <utility>
 
 namespace kalvon {
 
@@ -21,7 +20,7 @@ class Line {
 
  private:
   [[nodiscard]] const std::string& Text(int place, int kind) const {
-    const auto& cells = std::as_const(glavni).ukr_polja;
+    const auto& cells = glavni.ukr_polja;
     return across_ ? cells(place, crossing_place_, kind) : cells(crossing_place_, place, kind);
   }
 

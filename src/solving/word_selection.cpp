@@ -50,7 +50,7 @@ void klik_polje(double x, double y) {
   const int view_y = ViewCell(y, glavni.ukr_visina);
   const int grid_x = glavni.pogled_x + view_x - 1;
   const int grid_y = glavni.pogled_y + view_y - 1;
-  if (!IsLetterCell(std::as_const(glavni).ukr_polja(grid_x, grid_y, 1))) {
+  if (!IsLetterCell(glavni.ukr_polja(grid_x, grid_y, 1))) {
     if (glavni.iz_liste == 1) StayWithWord();
     return;
   }

@@ -9,9 +9,7 @@ namespace kalvon::testing {
 
 namespace {
 
-const std::string& Listed(int n, int column, int strana) {
-  return std::as_const(glavni).lista(n, column, strana);
-}
+const std::string& Listed(int n, int column, int strana) { return glavni.lista(n, column, strana); }
 
 TEST(ClueText, IsReadFromItsField) {
   struct Case {
@@ -138,7 +136,7 @@ TEST_F(ClueLists, ScrollingBringsTheClueOfTheBarToTheHead) {
     LoadText(text);
     std::vector<int> across;
     for (int n = 1; n <= glavni.broj_pitanja; ++n)
-      if (std::as_const(glavni).pitanja(n, 1) != 2) across.push_back(n);
+      if (glavni.pitanja(n, 1) != 2) across.push_back(n);
     const auto down_page = NumbersOnPage(2);
     auto& bar = frm_glavni->scr_tekst(0);
     for (const int value : {2, 9, 8, 21, 3, 1}) {

@@ -64,7 +64,7 @@ const CellCase cell_cases[] = {
 TEST_F(GridView, DrawsEachKindOfCellToThePixel) {
   LoadText(Frame());
   for (const CellCase& c : cell_cases) {
-    glavni.ukr_polja(2, 2, 1) = c.cell;
+    glavni.ukr_polja.Mutable(2, 2, 1) = c.cell;
     crtaj_ukrstenicu();
     for (const auto [x, y, colour] : c.pixels)
       EXPECT_EQ(PixelOf("pic_ukr", 28 + x, 28 + y), colour) << c.name << " at " << x << "," << y;
@@ -74,7 +74,7 @@ TEST_F(GridView, DrawsEachKindOfCellToThePixel) {
 TEST_F(GridView, ShowsTheUsersLetterAndNeverTheSolution) {
   LoadText(Frame());
   const auto ink = [&](const char* cell) {
-    glavni.ukr_polja(2, 2, 1) = cell;
+    glavni.ukr_polja.Mutable(2, 2, 1) = cell;
     crtaj_ukrstenicu();
     return Ink(CellImage(2, 2));
   };
@@ -92,7 +92,7 @@ TEST_F(GridView, CentresADigraphByItsMeasuredWidth) {
   frm_opcije->opt_opcije1(0).Value(true);
   LoadText(Frame());
   for (const char* cell : {"KQ$0$0$0$00", "KX$0$0$0$00", "KI$0$0$0$00", "KM$0$0$0$00"}) {
-    glavni.ukr_polja(2, 2, 1) = cell;
+    glavni.ukr_polja.Mutable(2, 2, 1) = cell;
     crtaj_ukrstenicu();
     const QImage image = CellImage(2, 2);
     int left = 0;
@@ -105,7 +105,7 @@ TEST_F(GridView, CentresADigraphByItsMeasuredWidth) {
 
 TEST_F(GridView, NumbersACellAlsoOnABlock) {
   LoadText(Frame());
-  glavni.rec_broj(2, 2) = 7;
+  glavni.rec_broj.Mutable(2, 2) = 7;
   crtaj_ukrstenicu();
   EXPECT_GT(Ink(CellImage(2, 2).copy(1, 1, 9, 12)), 5);
 }
@@ -153,7 +153,7 @@ TEST_F(GridView, RulersShowTheLastDigit) {
 TEST_F(GridView, GoesOnAfterACellThatFails) {
   LoadText(Frame());
   glavni.ukr_polja = Table<std::string, 3>({{{0, 1}, {0, 1}, {0, 2}}});
-  glavni.ukr_polja(1, 1, 1) = "$2$";
+  glavni.ukr_polja.Mutable(1, 1, 1) = "$2$";
   crtaj_ukrstenicu();
   EXPECT_EQ(PixelOf("pic_ukr", 10, 10), black);
   EXPECT_GT(Ink(CellImage(1, 4)), 5) << "the number of a cell whose string cannot be read";

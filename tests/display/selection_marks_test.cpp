@@ -128,7 +128,7 @@ TEST_F(SelectionMarks, ViewMovesOnlyAsFarAsTheClueNeeds) {
     frm_glavni->scr_hor.Value(c.view_x - 1);
     frm_glavni->scr_ver.Value(c.view_y - 1);
     for (const PageClue& clue : CluesOnPage(1)) {
-      const auto& pitanja = std::as_const(glavni).pitanja;
+      const auto& pitanja = glavni.pitanja;
       if (pitanja(clue.number, 2) == c.x && pitanja(clue.number, 3) == c.y)
         ClickPicture("pic_tekst(0)", 20, clue.first_row * 15 - 8);
     }
@@ -143,7 +143,7 @@ TEST_F(SelectionMarks, ViewMovesOnlyAsFarAsTheClueNeeds) {
 
 TEST_F(SelectionMarks, ClueThatStartsOnABlockLeavesTheWord) {
   LoadText({.rows = {"ABC", "D#E", "FGH"}});
-  glavni.ukr_polja(1, 3, 1) = "$1$";  // The start of clue 3, across.
+  glavni.ukr_polja.Mutable(1, 3, 1) = "$1$";  // The start of clue 3, across.
   crtaj_ukrstenicu();
   oznaci_rec(0);
   const auto word = MarkedCells();
@@ -156,7 +156,7 @@ TEST_F(SelectionMarks, ClueThatStartsOnABlockLeavesTheWord) {
 
 TEST_F(SelectionMarks, SelectionWithoutAWordStartMarksNoClue) {
   LoadText({.rows = {"ABC", "D#E", "FGH"}});
-  for (const int x : {1, 2, 3}) glavni.ukr_polja(x, 2, 2) = "";
+  for (const int x : {1, 2, 3}) glavni.ukr_polja.Mutable(x, 2, 2) = "";
   ClickCell(3, 2);  // No across word starts in this row.
   ASSERT_EQ(glavni.rec_x2, -1);
   EXPECT_TRUE(MarkedCells().empty());

@@ -23,7 +23,7 @@ class CrosswordSave : public testing::ProgramTest {
  protected:
   /// Puts a letter into a cell, as the word editor does.
   static void Enter(int x, int y, char letter) {
-    std::string& cell = glavni.ukr_polja(x, y, 1);
+    std::string& cell = glavni.ukr_polja.Mutable(x, y, 1);
     cell = WithUserLetter(cell, letter);
   }
 

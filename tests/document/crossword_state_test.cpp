@@ -40,12 +40,12 @@ TEST(Limits, RaiseTheErrorsOfTheProgram) {
   Table<std::string, 2> table(std::array{IndexRange{0, 3}, IndexRange{1, 2}});
   const Table<std::string, 2>& reading = table;
   EXPECT_EQ(reading(3, 2), "");
-  table(0, 1) = "first";
-  table(3, 2) = "last";
+  table.Mutable(0, 1) = "first";
+  table.Mutable(3, 2) = "last";
   EXPECT_EQ(reading(0, 1) + reading(3, 2) + reading(1, 2), "firstlast");
   constexpr int out_of_range = files::error::subscript_out_of_range;
   for (const auto& [n, c] : {std::pair{-1, 1}, {4, 1}, {0, 0}, {0, 3}}) {
-    EXPECT_EQ(files::pass_over([&, n = n, c = c] { table(n, c) = "x"; }), out_of_range) << n << c;
+    EXPECT_EQ(files::pass_over([&, n = n, c = c] { table.Mutable(n, c) = "x"; }), out_of_range) << n << c;
   }
   EXPECT_EQ(files::pass_over([] { glavni.smer = 32768; }), files::error::overflow);
 }

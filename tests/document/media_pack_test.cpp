@@ -47,7 +47,7 @@ class MediaPackTest : public ProgramTest {
 
   void Use(const std::string& table, const std::string& pack) const {
     glavni.media_sadrzaj = Table<std::string, 1>(std::array{IndexRange{1, 1}});
-    glavni.media_sadrzaj(1) = table;
+    glavni.media_sadrzaj.Mutable(1) = table;
     WriteFile("velika.qvd", pack);
   }
 
@@ -146,7 +146,7 @@ TEST_F(MediaPackTest, TakesThePackOfTheInstallmentInWhichTheWordBegins) {
   glavni.nast_visina = 10;
   glavni.media_sadrzaj = Table<std::string, 1>(std::array{IndexRange{1, 3}});
   for (int n = 1; n <= 3; ++n) {
-    glavni.media_sadrzaj(n) = "/sneg.txt/1";
+    glavni.media_sadrzaj.Mutable(n) = "/sneg.txt/1";
     WriteFile("zima00" + std::to_string(n) + ".qvd", std::to_string(n));
   }
   struct Row {

@@ -189,7 +189,7 @@ TEST_F(LetterConversionTest, ConvertsTheTextOfTheLastRowOfAList) {
     SetOptions(clue.script, clue.layout);
     for (const int list : {1, 2}) {
       (list == 1 ? glavni.lista_n1 : glavni.lista_n2) = 7;
-      glavni.lista(7, 1, list) = clue.text;
+      glavni.lista.Mutable(7, 1, list) = clue.text;
       konvertuj_pitanje(list);
       EXPECT_EQ(glavni.lista(7, 1, list), clue.shown) << clue.name;
     }

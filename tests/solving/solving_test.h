@@ -69,7 +69,7 @@ class SolvingTest : public ProgramTest {
     return {glavni.smer, glavni.rec_x1, glavni.rec_y1, glavni.rec_x2, glavni.rec_y2};
   }
 
-  static const std::string& Cell(int x, int y) { return std::as_const(glavni).ukr_polja(x, y, 1); }
+  static const std::string& Cell(int x, int y) { return glavni.ukr_polja(x, y, 1); }
 
   /// The user's letters of the grid row by row; a blank for none.
   static std::vector<std::string> Letters() {

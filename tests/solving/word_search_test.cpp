@@ -24,12 +24,12 @@ void FillGrid(const std::vector<std::string>& cells, const std::vector<std::stri
       const auto column = static_cast<std::size_t>(x - 1);
       const char cell = cells[row][column];
       const char start = starts[row][column];
-      if (cell == '#') glavni.ukr_polja(x, y, 1) = "$1$";
+      if (cell == '#') glavni.ukr_polja.Mutable(x, y, 1) = "$1$";
       if (cell != '#' && cell != '.')
-        glavni.ukr_polja(x, y, 1) = std::string(1, cell) + "$0$0$0$00";
-      if (start == 'a') glavni.ukr_polja(x, y, 2) = "010$$$$A$$";
-      if (start == 'd') glavni.ukr_polja(x, y, 2) = "001$$$$$D$";
-      if (start == 'b') glavni.ukr_polja(x, y, 2) = "011$$$$A$D$";
+        glavni.ukr_polja.Mutable(x, y, 1) = std::string(1, cell) + "$0$0$0$00";
+      if (start == 'a') glavni.ukr_polja.Mutable(x, y, 2) = "010$$$$A$$";
+      if (start == 'd') glavni.ukr_polja.Mutable(x, y, 2) = "001$$$$$D$";
+      if (start == 'b') glavni.ukr_polja.Mutable(x, y, 2) = "011$$$$A$D$";
     }
   }
 }

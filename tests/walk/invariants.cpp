@@ -5,7 +5,6 @@
 
 #include <QLineEdit>
 #include <QWidget>
-#include <utility>
 
 #include "display/clue_page.h"
 #include "document/crossword_state.h"
@@ -38,7 +37,7 @@ bool InWord(int x, int y) {
 
 unsigned BackgroundOf(int x, int y) {
   if (x > glavni.ukr_sirina || y > glavni.ukr_visina) return gray;
-  return std::as_const(glavni).ukr_polja(x, y, 1) == "$1$" ? gray : white;
+  return glavni.ukr_polja(x, y, 1) == "$1$" ? gray : white;
 }
 
 void ExpectMark() {
@@ -96,7 +95,7 @@ void ExpectEditor(bool typing, bool options_open) {
   std::string word;
   for (int x = glavni.rec_x1, y = glavni.rec_y1;
        x > 0 && y > 0 && x <= glavni.rec_x2 && y <= glavni.rec_y2; glavni.smer == 1 ? ++x : ++y) {
-    const auto letter = UserLetter(std::as_const(glavni).ukr_polja(x, y, 1));
+    const auto letter = UserLetter(glavni.ukr_polja(x, y, 1));
     word += letter.empty() ? "_" : letter;
   }
   EXPECT_EQ(glavni.rec_tekst, word);
@@ -108,7 +107,7 @@ void Invariants::TakeCrossword() {
   cells_.clear();
   for (int y = 1; y <= glavni.ukr_visina; ++y)
     for (int x = 1; x <= glavni.ukr_sirina; ++x)
-      cells_.push_back(WithoutUserLetter(std::as_const(glavni).ukr_polja(x, y, 1)));
+      cells_.push_back(WithoutUserLetter(glavni.ukr_polja(x, y, 1)));
 }
 
 void Invariants::Expect(bool typing, bool options_open) const {
@@ -122,7 +121,7 @@ void Invariants::ExpectCells() const {
   std::size_t place = 0;
   for (int y = 1; y <= glavni.ukr_visina; ++y) {
     for (int x = 1; x <= glavni.ukr_sirina; ++x) {
-      const std::string& cell = std::as_const(glavni).ukr_polja(x, y, 1);
+      const std::string& cell = glavni.ukr_polja(x, y, 1);
       EXPECT_EQ(WithoutUserLetter(cell), cells_.at(place++)) << "cell " << x << "," << y;
       if (!IsLetterCell(cell)) continue;
       EXPECT_LE(cell.find('$'), 2U) << cell;
