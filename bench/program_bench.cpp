@@ -5,7 +5,7 @@
 
 #include "bench_program.h"
 #include "display/clue_lists.h"
-#include "display/clue_selection.h"
+#include "solving/clue_selection.h"
 #include "display/font_change.h"
 #include "display/grid_view.h"
 #include "document/crossword_save.h"
@@ -117,7 +117,7 @@ void ScrollClues(State& state) {
 
 void SolvePuzzle(State& state) {
   const Loaded program(largest);
-  for (auto _ : state) operacija_celine(1);
+  for (auto _ : state) operacija_celine(PuzzleOperation::solve_all);
 }
 
 void ChangeScript(State& state) {

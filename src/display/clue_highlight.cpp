@@ -24,20 +24,20 @@ void oznaci_pitanje(int strana, int red) {
     last = clue->last_row;
     InvertRows(strana, first, last);
   }
-  ugasi_oznaku_pitanja(strana == 1 ? 2 : 1);
+  ugasi_oznaku_pitanja(direction::Other(strana));
 }
 
 void ugasi_oznaku_pitanja(int strana) {
   const auto [first, last] = BarOfList(strana);
   if (first <= 0 || last <= 0) return;
-  InvertRows(strana == 2 ? 2 : 1, first, last);
+  InvertRows(strana == direction::down ? strana : direction::across, first, last);
   first = 0;
   last = 0;
 }
 
 void MarkSelectedClue(int strana) {
-  ugasi_oznaku_pitanja(1);
-  ugasi_oznaku_pitanja(2);
+  ugasi_oznaku_pitanja(direction::across);
+  ugasi_oznaku_pitanja(direction::down);
   if (glavni.sel_broj == 0) return;
   for (const PageClue& clue : CluesOnPage(strana)) {
     if (clue.number != glavni.sel_broj) continue;

@@ -5,20 +5,22 @@
 #include <string>
 #include <string_view>
 
+#include "crossword/clue.h"
+#include "crossword/fields.h"
+#include "crossword/numbering.h"
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
 #include "display/clue_printing.h"
-#include "display/clue_text.h"
 #include "display/fonts.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
-#include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
 
 namespace kalvon {
 
 namespace {
 
-constexpr int sides[] = {1, 2};
+constexpr int sides[] = {direction::across, direction::down};
 
 bool IsTouched(int strana) { return glavni.lista_strana == 0 || glavni.lista_strana == strana; }
 
@@ -41,6 +43,12 @@ void ClearPage(int strana) {
   last = 0;
 }
 
+/// Puts the text of a clue of a page into its shown form.
+void konvertuj_pitanje(int strana, int n) {
+  std::string& text = glavni.lista.Mutable(n, 1, strana);
+  text = ShownClue(text, ChosenWriting());
+}
+
 /// Adds the clue that starts in a cell to the page of a list.
 void TakeClue(int strana, int x, int y) {
   const Clue clue = ReadClue(glavni.ukr_polja(x, y, 2), strana);
@@ -53,27 +61,20 @@ void TakeClue(int strana, int x, int y) {
   lista.Mutable(n, 3, strana) = std::to_string(y);
   lista.Mutable(n, 4, strana) = "1";
   lista.Mutable(n, 5, strana) = Trimmed(clue.media);
-  konvertuj_pitanje(strana);
+  konvertuj_pitanje(strana, n);
   const int rows = PrintClue(strana, glavni.lista(n, 1, strana), glavni.lista(n, 5, strana));
   lista.Mutable(n, 4, strana) = std::to_string(rows);
 }
 
 /// Goes to the next cell in the order in which clues are numbered.
 void MoveOn(int& x, int& y) {
-  const bool down_the_columns = glavni.nast_smer == 1;
+  const bool down_the_columns = glavni.nast_smer == join::side_by_side;
   int& inner = down_the_columns ? y : x;
   int& outer = down_the_columns ? x : y;
   if (++inner > (down_the_columns ? glavni.ukr_visina : glavni.ukr_sirina)) {
     inner = 1;
     ++outer;
   }
-}
-
-/// The clue at a place of a list, from 1; 0 if the list is shorter.
-int ClueAt(int place, int strana) {
-  for (int n = 1; n <= glavni.broj_pitanja; ++n)
-    if (BelongsTo(glavni.pitanja(n, 1), strana) && --place == 0) return n;
-  return 0;
 }
 
 }  // namespace
@@ -100,7 +101,7 @@ void skrol_pitanja(int k) {
   // The head of the page is always the clue at the bar's place, whatever the page held before: it
   // may have been empty, with the bar at its end because no clue of the list followed the first.
   const int value = frm_glavni->scr_tekst(k).Value();
-  const int head = ClueAt(value, strana);
+  const int head = ClueAtPlace(glavni, value, strana);
   HandledScroll(strana) = value;
   if (head == 0) return;
   crtaj_pitanja(glavni.pitanja(head, 2), glavni.pitanja(head, 3));

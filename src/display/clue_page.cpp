@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "display/clue_page.h"
 
+#include "crossword/fields.h"
+
 namespace kalvon {
 
 std::vector<PageClue> CluesOnPage(int strana) {

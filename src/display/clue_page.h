@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "crossword/direction.h"
 #include "document/crossword_state.h"
 
 namespace kalvon {
@@ -27,19 +28,20 @@ std::vector<PageClue> CluesOnPage(int strana);
 /// The clue of the page that owns a row, from 1.
 std::optional<PageClue> ClueOfRow(int strana, int row);
 
-/// Whether a clue of the kind of `pitanja` (1 across, 2 down, 3 both) belongs to a list.
-constexpr bool BelongsTo(int kind, int strana) { return kind == strana || kind == 3; }
-
 /// `lista_n1` or `lista_n2`.
-inline Int16& CluesInList(int strana) { return strana == 2 ? glavni.lista_n2 : glavni.lista_n1; }
+inline Int16& CluesInList(int strana) {
+  return strana == direction::down ? glavni.lista_n2 : glavni.lista_n1;
+}
 
 /// `lista_red1` or `lista_red2`.
 inline Int16& LastPrintedRow(int strana) {
-  return strana == 2 ? glavni.lista_red2 : glavni.lista_red1;
+  return strana == direction::down ? glavni.lista_red2 : glavni.lista_red1;
 }
 
 /// `skrol1` or `skrol2`.
-inline Int16& HandledScroll(int strana) { return strana == 2 ? glavni.skrol2 : glavni.skrol1; }
+inline Int16& HandledScroll(int strana) {
+  return strana == direction::down ? glavni.skrol2 : glavni.skrol1;
+}
 
 /// The rows of a list's bar: `oznaka1_od` and `oznaka1_do`, or those of list 2.
 struct BarRows {
@@ -47,7 +49,7 @@ struct BarRows {
   Int16& last;
 };
 inline BarRows BarOfList(int strana) {
-  if (strana == 2) return {glavni.oznaka2_od, glavni.oznaka2_do};
+  if (strana == direction::down) return {glavni.oznaka2_od, glavni.oznaka2_do};
   return {glavni.oznaka1_od, glavni.oznaka1_do};
 }
 

@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <string_view>
 
+#include "crossword/fields.h"
+#include "crossword/media_kinds.h"
 #include "display/clue_page.h"
-#include "display/clue_text.h"
 #include "display/fonts.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
@@ -19,15 +20,27 @@ constexpr int icon_left = 2;
 /// Pixels of a list's width that its text leaves free.
 constexpr int text_margin = 20;
 
-/// Icon of a medium: the index in `pic_media`. Only these spellings of an ending have one.
-struct MediaIcon {
-  const char* ending;
-  int icon;
-};
-constexpr MediaIcon media_icons[] = {
-    {".bmp", 0}, {".BMP", 0}, {".txt", 1}, {".TXT", 1}, {".wav", 2},
-    {".WAV", 2}, {".mid", 2}, {".MID", 2}, {".avi", 3}, {".AVI", 3},
-};
+/// The icon of a medium: its index in `pic_media`.
+int IconOf(Medium medium) {
+  switch (medium) {
+    case Medium::picture:
+      return 0;
+    case Medium::text:
+      return 1;
+    case Medium::video:
+      return 3;
+    default:
+      return 2;
+  }
+}
+
+/// Whether the name ends in small or in capital letters of the ending; only these have an icon.
+bool HasEnding(std::string_view name, std::string_view ending) {
+  const std::string_view end = LastCharacters(name, ending.size());
+  const auto capital = [](char small, char letter) { return small - 'a' + 'A' == letter; };
+  return name.size() > ending.size() && name[name.size() - ending.size() - 1] == '.' &&
+         (end == ending || std::ranges::equal(ending, end, capital));
+}
 
 /// So many characters never fit in a row, and so many rows reach far below the box: what lies
 /// behind them in an endless clue is neither measured nor printed.
@@ -52,9 +65,9 @@ std::size_t RowLength(std::string_view text, int width) {
 }
 
 void PrintIcon(toolkit::PictureBox& list, const std::string& media, int y) {
-  for (const MediaIcon& row : media_icons)
-    if (media.ends_with(row.ending))
-      list.PaintPicture(frm_glavni->pic_media(row.icon).Picture(), icon_left, y);
+  for (const MediaKind& kind : media_kinds)
+    if (HasEnding(media, kind.ending))
+      list.PaintPicture(frm_glavni->pic_media(IconOf(kind.medium)).Picture(), icon_left, y);
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 #include "display/fonts.h"
 #include "display/grid_view.h"
 #include "display/word_highlight.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/forms/frm_opcije.h"
 
 namespace kalvon {
 
@@ -16,9 +16,10 @@ using files::pass_over;
 namespace {
 
 const char* FontOfOptions() {
-  if (glavni.jezik == 1) return "MS Sans Serif";
-  if (frm_opcije->opt_opcije1(1).Value()) return "Arial";
-  return frm_opcije->opt_opcije(0).Value() ? "C_Kalvon" : "Kalvon";
+  const Writing writing = ChosenWriting();
+  if (writing.english) return "MS Sans Serif";
+  if (writing.code_page) return "Arial";
+  return writing.latin ? "Kalvon" : "C_Kalvon";
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "display/fonts.h"
 
+#include "display/writing.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/forms/frm_opcije.h"
 
 namespace kalvon {
 
@@ -13,8 +13,9 @@ constexpr int cyrillic_charset = 204;
 constexpr int central_european_charset = 238;
 
 int CharsetOfOptions() {
-  if (frm_opcije->opt_opcije1(0).Value()) return own_charset;
-  return frm_opcije->opt_opcije(0).Value() ? cyrillic_charset : central_european_charset;
+  const Writing writing = ChosenWriting();
+  if (!writing.code_page) return own_charset;
+  return writing.latin ? central_european_charset : cyrillic_charset;
 }
 
 }  // namespace

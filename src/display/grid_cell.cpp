@@ -4,10 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "crossword/cell.h"
+#include "crossword/fields.h"
 #include "display/fonts.h"
 #include "display/grid_geometry.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
-#include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
 
 namespace kalvon {
@@ -72,16 +74,6 @@ void DrawMarks(Origin cell, std::string_view marks) {
   if (bottom > 0) BreakHorizontalLine(bottom == 1 ? cell.y + cell_pitch - 1 : cell.y - 1, cell);
 }
 
-/// Leaves in `znak` the one or two characters that show a stored letter.
-void ShowInZnak(char letter) {
-  if (glavni.jezik == 1) {
-    glavni.znak = letter;
-    return;
-  }
-  postavi_charset();
-  glavni.znak = ShownLetter(letter);
-}
-
 void DrawLetter(Origin cell, char letter) {
   auto& picture = frm_glavni->pic_ukr;
   SetFont(frm_glavni->lbl_sirina, glavni.font_ime, 14, true);
@@ -89,7 +81,8 @@ void DrawLetter(Origin cell, char letter) {
   const bool smaller = glavni.jezik == 1 || picture.FontName() == "Arial";
   SetFont(picture, glavni.font_ime, smaller ? 12 : 14, true);
 
-  ShowInZnak(letter);
+  if (glavni.jezik == 0) postavi_charset();
+  glavni.znak = ShownLetter(letter, ChosenWriting());
   // Letters are centred by their width at 14 points also where they are printed smaller.
   picture.CurrentX(cell.x + HalfDown(cell_pitch - MeasuredWidth(glavni.znak)));
   picture.CurrentY(cell.y + 8);
@@ -97,11 +90,11 @@ void DrawLetter(Origin cell, char letter) {
 }
 
 void DrawContents(Origin cell, const std::string& text) {
-  if (text == "$2$") DrawBlackSquare(cell);
-  if (text == "$1$") DrawGrayBlock(cell);
+  if (text == black_square) DrawBlackSquare(cell);
+  if (text == gray_block) DrawGrayBlock(cell);
   if (!IsLetterCell(text)) return;
   DrawMarks(cell, Behind(text, '$'));
-  if (text.size() > 2 && text[2] == '$') DrawLetter(cell, text[1]);
+  if (ShowsUserLetter(text)) DrawLetter(cell, text[1]);
 }
 
 void DrawNumber(Origin cell, int number) {

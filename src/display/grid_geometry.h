@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+
 #include "shell/toolkit/input/picture_box.h"
 
 namespace kalvon {
@@ -18,6 +20,12 @@ inline constexpr toolkit::Colour block_gray = 0xC0C0C0;
 /// Whether a view that begins with the grid column or row `first` shows the given one.
 constexpr bool InView(int column_or_row, int first) {
   return column_or_row >= first && column_or_row < first + view_cells;
+}
+
+/// The first column or row of a view that begins with the wanted one in a grid of `all` of them, as
+/// far as the grid allows.
+constexpr int FirstShown(int wanted, int all) {
+  return std::max(1, std::min(wanted, all - view_cells + 1));
 }
 
 /// Half of a length in any unit, rounded down also below zero.

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "display/word_highlight.h"
 
+#include "crossword/numbering.h"
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
 #include "display/grid_geometry.h"
 #include "display/inversion.h"
+#include "display/letter_boxes.h"
+#include "display/selected_word.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
-#include "solving/letter_boxes.h"
-#include "solving/word_search.h"
 
 namespace kalvon {
 
@@ -33,20 +34,11 @@ void InvertDown(int x, int y1, int y2) {
 /// `nadji_rec` has turned the direction. It stays turned only for a click on the word on record,
 /// which runs the other way; any other click turns it back.
 void SettleDirection() {
-  const int x = glavni.pogled_x + glavni.klik_x - 1;
-  const int y = glavni.pogled_y + glavni.klik_y - 1;
-  const bool on_word = glavni.smer == 2
+  const auto [x, y] = ClickedCell();
+  const bool on_word = glavni.smer == direction::down
                            ? y == glavni.pret_y1 && x >= glavni.pret_x1 && x <= glavni.pret_x2
                            : x == glavni.pret_x1 && y >= glavni.pret_y1 && y <= glavni.pret_y2;
   if (!on_word) nadji_rec();
-}
-
-/// The place of clue n among the clues of a list, from 1.
-int PlaceInList(int n, int strana) {
-  int place = 0;
-  for (int i = 1; i <= n; ++i)
-    if (BelongsTo(glavni.pitanja(i, 1), strana)) ++place;
-  return place;
 }
 
 /// Brings the clue of the word to the head of its list and puts the bar on it. A selection without
@@ -59,7 +51,8 @@ void BringClueToHead() {
   glavni.sel_broj = 0;
   if (n != 0) {
     auto& bar = frm_glavni->scr_tekst(strana - 1);
-    bar.Value(PlaceInList(n, strana));
+    const ClueCounts place = PlaceOfClue(glavni, n);
+    bar.Value(strana == direction::across ? place.across : place.down);
     HandledScroll(strana) = bar.Value();
   }
   glavni.sel_broj = n;
@@ -72,7 +65,7 @@ void BringClueToHead() {
 void ugasi_oznaku_reci() {
   const auto& s = glavni;
   if (s.pret_x1 <= 0 && s.pret_x2 <= 0 && s.pret_y1 <= 0 && s.pret_y2 <= 0) return;
-  if (s.smer == 2)
+  if (s.smer == direction::down)
     InvertAcross(s.pret_x1, s.pret_x2, s.pret_y1);
   else
     InvertDown(s.pret_x1, s.pret_y1, s.pret_y2);
@@ -80,7 +73,7 @@ void ugasi_oznaku_reci() {
 
 void oznaci_rec(int poziv) {
   if (poziv == 1) SettleDirection();
-  if (glavni.smer == 1)
+  if (glavni.smer == direction::across)
     InvertAcross(glavni.rec_x1, glavni.rec_x2, glavni.rec_y1);
   else
     InvertDown(glavni.rec_x1, glavni.rec_y1, glavni.rec_y2);

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "crossword/crossword.h"
+
 namespace kalvon {
 
-/// Loads the file that the dialog has chosen: joins its installments into one grid, numbers the
-/// clues, draws grid and lists and selects the first clue. Expects the path in `ukr_staza`, the
-/// name in `txt_ucit` and the folder's files in `File1`. A failure ends the load without a word,
-/// with what it has so far; the crossword in the grid stays if it has not been replaced yet.
-void ucitaj_ukrstenicu();
+// A load, up to the moment from which the crossword is shown.
+
+/// Opens the crossword that the dialog has chosen, by the path in `ukr_staza` and the files that
+/// `File1` lists. Nothing changes in the record. Fails as OpenCrossword.
+Crossword OpenChosenCrossword();
+
+/// Puts an opened crossword, which has no cells yet, in place of the one in the record, and forgets
+/// what the procedures remember of that one.
+void ReplaceCrossword(Crossword opened);
 
 }  // namespace kalvon

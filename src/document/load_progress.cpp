@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/load_progress.h"
 
+#include "crossword/reading.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_ucit_snimi.h"
 
@@ -10,9 +11,7 @@ void StartProgress() {
   constexpr int columns = 150;
   glavni.napredak_br = 0;
   glavni.napredak_x = 0;
-  // Each cell is a step when it is read and another one when it is numbered.
-  const Int16 steps = glavni.ukr_visina * glavni.ukr_sirina * 2;
-  glavni.napredak_korak = steps / columns;
+  glavni.napredak_korak = StepsOf(glavni) / columns;
 }
 
 void napredak() {

@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "crossword/fields.h"
+#include "crossword/media_table.h"
 #include "display/fonts.h"
 #include "document/crossword_state.h"
 #include "files/text_file.h"
@@ -13,7 +15,6 @@
 namespace kalvon {
 namespace {
 
-constexpr auto file_name = "m_kalvon_ini.txt";
 constexpr auto temporary_name = "m_kalvon_ini.tmp";
 
 /// Title, folder, script, keyboard layout; empty from the first one that cannot be read.
@@ -22,14 +23,14 @@ using Lines = std::array<std::string, 4>;
 Lines ReadLines() {
   Lines lines;
   files::pass_over([&] {
-    files::TextReader file(glavni.app_staza + file_name);
+    files::TextReader file(glavni.app_staza + std::string(settings_name));
     for (std::string& line : lines) line = file.Line();
   });
   return lines;
 }
 
 void WriteLines(const Lines& lines) {
-  files::FileRewrite file(glavni.app_staza + file_name, temporary_name);
+  files::FileRewrite file(glavni.app_staza + std::string(settings_name), temporary_name);
   for (const std::string& line : lines) file.PrintLine(line);
   file.Commit();
 }

@@ -3,17 +3,11 @@
 
 #include <algorithm>
 
-#include "document/crossword_state.h"
 #include "letters/alphabet.h"
-#include "shell/forms/frm_opcije.h"
 
 namespace kalvon {
 
 namespace {
-
-// The option buttons are the only memory of script and layout.
-bool Latin() { return frm_opcije->opt_opcije(1).Value(); }
-bool CodePage() { return frm_opcije->opt_opcije1(1).Value(); }
 
 // What Latin script shows for the letters that it writes with two. The grave accent is the small
 // z with caron of the 7-bit code.
@@ -27,102 +21,105 @@ constexpr Digraph digraphs[] = {
 
 constexpr bool IsSmallAscii(char c) { return c >= 'a' && c <= 'z'; }
 
+/// A letter as a routine turns it, or the letter itself.
+template <typename Result>
+std::string Or(const Result& converted, std::string_view letter) {
+  return std::string(converted.empty() ? letter : std::string_view(converted));
+}
+
 /// Applies a letter routine to each character of a text.
-std::string Converted(std::string_view text, void (*routine)(std::string_view)) {
+template <typename Routine>
+std::string Converted(std::string_view text, Routine routine, const Writing& writing) {
   std::string result;
   result.reserve(text.size() + 8);
   for (std::size_t i = 0; i < text.size(); ++i) {
     const std::string_view letter = text.substr(i, 1);
-    routine(letter);
-    result += glavni.znak.empty() ? letter : std::string_view(glavni.znak);
+    const auto converted = routine(letter, writing);
+    result += converted.empty() ? letter : std::string_view(converted);
   }
   return result;
 }
 
 /// The Latin letters that stand elsewhere in Windows-1250 than in the 7-bit code.
-void LatinCodePage(std::string_view letter) {
-  if (letter == "`") glavni.znak = "\x9E";
-  if (letter == "D`") glavni.znak = "D\x9E";
-  if (letter.size() != 1) return;
+std::string LatinCodePage(std::string_view letter) {
+  if (letter == "`") return "\x9E";
+  if (letter == "D`") return "D\x9E";
+  if (letter.size() != 1) return {};
   const AlphabetLetter* const known = LetterOfStored(letter.front());
-  if (known != nullptr && known->latin != known->stored) glavni.znak = known->latin;
+  const bool elsewhere = known != nullptr && known->latin != known->stored;
+  return elsewhere ? std::string(1, known->latin) : std::string();
 }
 
-TypedLetter LetterOfAscii(char key) {
-  slovo_veliko(std::string_view(&key, 1));
-  if (glavni.znak.empty() || glavni.azbuka.find(glavni.znak) == std::string::npos) return {};
-  const char stored = glavni.znak.front();
-  slovo_digraf(std::string_view(&stored, 1));
-  return {stored, glavni.znak.empty() ? std::string(1, stored) : glavni.znak};
+TypedLetter LetterOfAscii(char key, const Writing& writing) {
+  const std::string_view stored = slovo_veliko({&key, 1}, writing);
+  if (stored.empty() || azbuka(writing.english).find(stored) == std::string_view::npos) return {};
+  return {stored.front(), Or(slovo_digraf(stored, writing), stored)};
 }
 
-TypedLetter LetterOfCodePage(char key) {
-  if (glavni.jezik != 0) return {};
-  const bool latin = Latin();
+TypedLetter LetterOfCodePage(char key, const Writing& writing) {
+  if (writing.english) return {};
   const auto typed_by_key = [&](const AlphabetLetter& letter) {
-    return latin ? key == letter.latin || key == letter.latin_small
-                 : key == letter.cyrillic || key == letter.cyrillic_small;
+    return writing.latin ? key == letter.latin || key == letter.latin_small
+                         : key == letter.cyrillic || key == letter.cyrillic_small;
   };
   const auto alphabet = SerbianAlphabet();
   const auto found = std::ranges::find_if(alphabet, typed_by_key);
   if (found == alphabet.end()) return {};
-  return {found->stored, ShownLetter(found->stored)};
+  return {found->stored, ShownLetter(found->stored, writing)};
 }
 
 }  // namespace
 
-void slovo_digraf(std::string_view letter) {
-  glavni.znak.clear();
-  if (glavni.jezik == 1 || !Latin() || letter.size() != 1) return;
-  for (const Digraph& digraph : digraphs) {
-    if (digraph.stored == letter.front()) glavni.znak = digraph.shown;
-  }
+std::string_view azbuka(bool english) {
+  static const std::string serbian = [] {
+    std::string letters;
+    for (const AlphabetLetter& letter : SerbianAlphabet()) letters += letter.stored;
+    return letters;
+  }();
+  return english ? "ABCDEFGHIJKLMNOPQRSTUVWXYZ" : std::string_view(serbian);
 }
 
-void slovo_cirilica(std::string_view letter) {
-  glavni.znak.clear();
-  if (!CodePage()) return;
-  if (Latin()) {
-    LatinCodePage(letter);
-  } else if (letter.size() == 1) {
-    const AlphabetLetter* const known = LetterOfStored(letter.front());
-    if (known != nullptr) glavni.znak = known->cyrillic;
-  }
+std::string_view slovo_digraf(std::string_view letter, const Writing& writing) {
+  if (writing.english || !writing.latin || letter.size() != 1) return {};
+  const auto* const found = std::ranges::find(digraphs, letter.front(), &Digraph::stored);
+  return found == std::end(digraphs) ? std::string_view() : found->shown;
 }
 
-void slovo_veliko(std::string_view letter) {
-  glavni.znak.clear();
-  if (letter.size() != 1) return;
+std::string slovo_cirilica(std::string_view letter, const Writing& writing) {
+  if (!writing.code_page) return {};
+  if (writing.latin) return LatinCodePage(letter);
+  const AlphabetLetter* const known = letter.size() == 1 ? LetterOfStored(letter.front()) : nullptr;
+  return known == nullptr ? std::string() : std::string(1, known->cyrillic);
+}
+
+std::string_view slovo_veliko(std::string_view letter, const Writing& writing) {
+  if (letter.size() != 1) return {};
   const char key = letter.front();
-  if (key == 'y' && glavni.jezik == 1) glavni.znak = 'Y';
-  if (glavni.jezik != 0 && !IsSmallAscii(key)) return;
+  if (key == 'y' && writing.english) return "Y";
+  if (writing.english && !IsSmallAscii(key)) return {};
   const AlphabetLetter* const known = LetterOfAsciiKey(key);
-  if (known != nullptr) glavni.znak = known->stored;
+  return known == nullptr ? std::string_view() : std::string_view(&known->stored, 1);
 }
 
-void konvertuj_pitanje(int strana) {
-  const int row = strana == 1 ? glavni.lista_n1 : glavni.lista_n2;
-  std::string& text = glavni.lista.Mutable(row, 1, strana);
-  text = Converted(text, slovo_veliko);
-  text = Converted(text, slovo_digraf);
-  text = Converted(text, slovo_cirilica);
+std::string ShownLetter(char stored, const Writing& writing) {
+  const std::string shown = Or(slovo_digraf({&stored, 1}, writing), {&stored, 1});
+  return Or(slovo_cirilica(shown, writing), shown);
 }
 
-std::string ShownLetter(char stored) {
-  std::string shown(1, stored);
-  slovo_digraf(shown);
-  if (!glavni.znak.empty()) shown = glavni.znak;
-  slovo_cirilica(shown);
-  if (!glavni.znak.empty()) shown = glavni.znak;
-  return shown;
+std::string ShownClue(std::string_view text, const Writing& writing) {
+  std::string shown = Converted(text, slovo_veliko, writing);
+  shown = Converted(shown, slovo_digraf, writing);
+  return Converted(shown, slovo_cirilica, writing);
 }
 
-std::string ShownText(std::string_view text) { return Converted(text, slovo_digraf); }
+std::string ShownText(std::string_view text, const Writing& writing) {
+  return Converted(text, slovo_digraf, writing);
+}
 
-TypedLetter LetterOfKey(int key_code) {
+TypedLetter LetterOfKey(int key_code, const Writing& writing) {
   if (key_code < 0 || key_code > 0xFF) return {};
   const char key = static_cast<char>(key_code);
-  return CodePage() ? LetterOfCodePage(key) : LetterOfAscii(key);
+  return writing.code_page ? LetterOfCodePage(key, writing) : LetterOfAscii(key, writing);
 }
 
 }  // namespace kalvon

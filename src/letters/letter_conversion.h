@@ -6,24 +6,34 @@
 
 namespace kalvon {
 
-// Each routine clears `znak` and leaves its result there; an empty result means that the input is
-// used unchanged. Letters are stored in the 7-bit YU ASCII code, with Q, W, X for Lj, Nj, Dž.
+/// How letters are shown and typed.
+struct Writing {
+  bool english = false;    ///< The language, which has no other script and layout.
+  bool latin = true;       ///< Script: Latin or Cyrillic.
+  bool code_page = false;  ///< Layout: characters of a code page, or the 7-bit YU ASCII code.
+};
+
+/// The letters that can be typed, in their stored form and in the order of the alphabet.
+std::string_view azbuka(bool english);
+
+// The result of each routine is empty where the input is used unchanged. Letters are stored in the
+// 7-bit YU ASCII code, with Q, W, X for Lj, Nj, Dž.
 
 /// Expands a digraph letter, in either case, for the Latin script.
-void slovo_digraf(std::string_view letter);
+std::string_view slovo_digraf(std::string_view letter, const Writing& writing);
 /// Turns a stored letter into its code page form for a standard font.
-void slovo_cirilica(std::string_view letter);
+std::string slovo_cirilica(std::string_view letter, const Writing& writing);
 /// Turns a key or a small letter into the stored capital.
-void slovo_veliko(std::string_view letter);
+std::string_view slovo_veliko(std::string_view letter, const Writing& writing);
 
-/// Converts the text of the row that was just added to a clue list (1 across, 2 down).
-void konvertuj_pitanje(int strana);
+/// The shown form of a stored letter.
+std::string ShownLetter(char stored, const Writing& writing);
 
-/// The shown form of a stored letter, in the script and code layout of the options.
-std::string ShownLetter(char stored);
+/// The shown form of a clue in a list: all capitals.
+std::string ShownClue(std::string_view text, const Writing& writing);
 
 /// The running text of a multimedia clue, with its digraph letters expanded.
-std::string ShownText(std::string_view text);
+std::string ShownText(std::string_view text, const Writing& writing);
 
 /// A typed letter: its stored form, and its shown form for the letter box.
 struct TypedLetter {
@@ -33,6 +43,6 @@ struct TypedLetter {
 
 /// What a typed character (its code in the code page of the layout) stands for; `stored` is 0 for a
 /// character that is no letter.
-TypedLetter LetterOfKey(int key_code);
+TypedLetter LetterOfKey(int key_code, const Writing& writing);
 
 }  // namespace kalvon

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "multimedia/media_pane.h"
 
-#include <algorithm>
+#include <string_view>
 
+#include "crossword/direction.h"
+#include "crossword/media_kinds.h"
+#include "crossword/media_table.h"
 #include "display/grid_geometry.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
-#include "document/media_file.h"
 #include "files/text_file.h"
-#include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/toolkit/windows/application.h"
 
@@ -20,12 +22,19 @@ using files::pass_over;
 constexpr std::size_t longest_text =
     std::size_t{256} * 1024;  // Bytes that a text clue shows at most.
 
-struct Device {
-  const char* tip;
-  const char* type;
-};
-
-constexpr Device devices[] = {{"avi", "AVIVideo"}, {"wav", "WaveAudio"}, {"mid", "Sequencer"}};
+/// The device that plays a medium, none for one that is only shown.
+const char* DeviceOf(Medium medium) {
+  switch (medium) {
+    case Medium::sound:
+      return "WaveAudio";
+    case Medium::music:
+      return "Sequencer";
+    case Medium::video:
+      return "AVIVideo";
+    default:
+      return "";
+  }
+}
 
 toolkit::PictureBox& Pane() { return frm_glavni->pic_media(4); }
 toolkit::PictureBox& Display() { return frm_glavni->pic_media(5); }
@@ -40,7 +49,7 @@ void HideContent() {
 
 void PlacePane() {
   Pane().Left(5);
-  Pane().Top(glavni.smer == 1 ? 42 : 268);
+  Pane().Top(glavni.smer == direction::across ? 42 : 268);
 }
 
 void CentreDisplay() {
@@ -72,7 +81,7 @@ std::string ReadText() {
 void ShowText() {
   auto& body = frm_glavni->txt_media(1);
   body.Left(frm_glavni->txt_media(0).Left());
-  body.Text(ShownText(ReadText()));
+  body.Text(ShownText(ReadText(), ChosenWriting()));
   body.Visible(true);
 }
 
@@ -93,6 +102,25 @@ void PlayVideo() {
   Play();
 }
 
+void Show(Medium medium) {
+  switch (medium) {
+    case Medium::picture:
+      return ShowPicture();
+    case Medium::text:
+      return ShowText();
+    case Medium::video:
+      return PlayVideo();
+    default:
+      return Play();
+  }
+}
+
+/// Whether the file of a path is a medium in the program's folder, to be deleted when it is no
+/// longer on show.
+bool IsTemporaryMedium(std::string_view path) {
+  return path.starts_with(glavni.app_staza) && MayNameMedium(path.substr(glavni.app_staza.size()));
+}
+
 }  // namespace
 
 void prikazi_media(const std::string& tip) {
@@ -101,15 +129,8 @@ void prikazi_media(const std::string& tip) {
   zatvori_mci();
   HideContent();
   PlacePane();
-  if (tip == "bmp")
-    ShowPicture();
-  else if (tip == "avi")
-    PlayVideo();
-  else if (tip == "txt")
-    ShowText();
-  else if (tip == "mid" || tip == "wav")
-    Play();
-  frm_glavni->txt_media(0).Text(ShownText(glavni.media_pitanje));
+  if (const MediaKind* kind = FindMediaKind(tip)) Show(kind->medium);
+  frm_glavni->txt_media(0).Text(ShownText(glavni.media_pitanje, ChosenWriting()));
   Pane().Visible(true);
 }
 
@@ -117,8 +138,8 @@ void otvori_media() {
   zatvori_mci();
   auto& device = frm_glavni->mm_media;
   // A medium that has played to its end has no type any more, and is opened on the same device.
-  const auto* found = std::ranges::find(devices, glavni.media_tip, &Device::tip);
-  if (found != std::end(devices)) device.DeviceType(found->type);
+  const MediaKind* const kind = FindMediaKind(glavni.media_tip);
+  if (kind != nullptr) device.DeviceType(DeviceOf(kind->medium));
   if (glavni.media_tip == "avi") {
     pass_over([] { Display().SetFocus(); });
     sacekaj(50);  // The picture's GotFocus tells its handle.

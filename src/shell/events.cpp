@@ -2,7 +2,6 @@
 #include "shell/events.h"
 
 #include "display/clue_lists.h"
-#include "display/clue_selection.h"
 #include "display/grid_scroll.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
@@ -17,6 +16,7 @@
 #include "shell/options_dialog.h"
 #include "shell/startup.h"
 #include "shell/toolkit/windows/application.h"
+#include "solving/clue_selection.h"
 #include "solving/word_editor.h"
 #include "solving/word_selection.h"
 

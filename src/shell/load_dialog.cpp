@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include "display/clue_text.h"
-#include "document/crossword_load.h"
+#include "crossword/fields.h"
+#include "crossword/header.h"
 #include "document/crossword_state.h"
-#include "document/installments.h"
 #include "files/host_paths.h"
 #include "files/text_file.h"
 #include "multimedia/media_pane.h"
+#include "shell/crossword_opening.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_ucit_snimi.h"
 
@@ -22,9 +22,6 @@ using files::pass_over;
 
 constexpr int load_mode = 1;
 constexpr int save_mode = 2;
-
-/// The crossword that was loaded when the dialog was opened.
-std::string path_at_opening;
 
 /// Runs one statement of the navigation. If it fails, the drive list goes back to the program's own
 /// drive, and the next statement follows.
@@ -80,7 +77,6 @@ void otvori_dijalog(int mode) {
   dialog.txt_ucit.Enabled(!loading);
   glavni.dijalog_rezim = loading ? load_mode : save_mode;
   if (!serbian) UseEnglishCaptions();
-  path_at_opening = glavni.ukr_staza;
 
   dialog.Show();
   frm_glavni->Enabled(false);
@@ -103,7 +99,6 @@ void dijalog_komanda(int index) {
     ucitaj_ukrstenicu();
     zatvori_dijalog();
   } else if (index == 1) {
-    glavni.ukr_staza = path_at_opening;
     zatvori_dijalog();
   }
 }

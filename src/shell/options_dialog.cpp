@@ -75,14 +75,14 @@ void komanda_opcije(int index) {
       primeni_font();
       return sakrij_opcije();
     case 2:
-      return operacija_celine(0);
+      return operacija_celine(PuzzleOperation::erase_all);
     case 3:
       primeni_font();
-      return operacija_celine(1);
+      return operacija_celine(PuzzleOperation::solve_all);
     case 4:
-      return operacija_celine(2);
+      return operacija_celine(PuzzleOperation::count_wrong);
     case 5:
-      return operacija_celine(3);
+      return operacija_celine(PuzzleOperation::erase_wrong);
     default:
       return;
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/startup.h"
 
+#include "crossword/direction.h"
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
 #include "document/settings.h"
@@ -70,10 +71,7 @@ void Start() {
   glavni.app_staza = files::WithBackslash(toolkit::App::Path());
   PlaceForms();
   ShowProgramFolder();
-  glavni.azbuka =
-      glavni.jezik == 0 ? "ABVGD\\E@ZIJKLQMNWOPRST]UFHC^X[" : "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-  glavni.nule = "00000";
-  glavni.smer = 2;
+  glavni.smer = direction::down;
   glavni.rec_x1 = glavni.rec_y1 = glavni.rec_x2 = glavni.rec_y2 = 0;
   glavni.pre_ucitavanja = 1;
   DisableWhatNeedsACrossword();

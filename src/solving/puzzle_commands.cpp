@@ -3,12 +3,13 @@
 
 #include <string>
 
+#include "crossword/cell.h"
 #include "display/grid_view.h"
+#include "display/selected_word.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/toolkit/windows/application.h"
-#include "solving/word_search.h"
 
 namespace kalvon {
 
@@ -38,17 +39,11 @@ class Busy {
   Busy& operator=(const Busy&) = delete;
 };
 
-enum Operation { erase_all, solve_all, count_wrong, erase_wrong };
-
-/// The third character tells, as in the drawing of the grid, whether the cell has a user's letter.
-bool IsWrong(const std::string& cell) {
-  return cell.size() > 2 && cell[2] == '$' && cell[0] != cell[1];
-}
-
-void Change(std::string& cell, int operation) {
-  if (operation == solve_all) {
+void Change(std::string& cell, PuzzleOperation operation) {
+  if (operation == PuzzleOperation::solve_all) {
     cell = WithUserLetter(cell, cell.front());
-  } else if (operation == erase_all || (operation == erase_wrong && IsWrong(cell))) {
+  } else if (operation == PuzzleOperation::erase_all ||
+             (operation == PuzzleOperation::erase_wrong && IsWrong(cell))) {
     cell = WithoutUserLetter(cell);
   }
 }
@@ -65,7 +60,7 @@ void brisi_rec() {
   ShowChange();
 }
 
-void operacija_celine(int operation) {
+void operacija_celine(PuzzleOperation operation) {
   const Busy busy;
   std::int32_t wrong_letters = 0;
   for (int x = 1; x <= glavni.ukr_sirina; ++x) {
@@ -77,7 +72,7 @@ void operacija_celine(int operation) {
     }
   }
 
-  if (operation == count_wrong) {
+  if (operation == PuzzleOperation::count_wrong) {
     frm_opcije->Label2.Caption(std::to_string(wrong_letters));
   } else {
     ShowChange();

@@ -9,7 +9,9 @@ void resi_rec();
 /// Erases the user's letters of the selected word.
 void brisi_rec();
 
-/// Whole-puzzle operation: 0 erase all, 1 solve all, 2 count wrong letters, 3 erase wrong letters.
-void operacija_celine(int operation);
+/// An operation on the whole puzzle.
+enum class PuzzleOperation { erase_all = 0, solve_all = 1, count_wrong = 2, erase_wrong = 3 };
+
+void operacija_celine(PuzzleOperation operation);
 
 }  // namespace kalvon

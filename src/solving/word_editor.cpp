@@ -4,12 +4,13 @@
 #include <algorithm>
 #include <string>
 
+#include "crossword/cell.h"
 #include "display/grid_view.h"
+#include "display/letter_boxes.h"
 #include "display/word_highlight.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
-#include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "solving/letter_boxes.h"
 
 namespace kalvon {
 
@@ -88,7 +89,7 @@ constexpr Key keys[] = {
 
 void unos_znaka(int index, int key_code) {
   if (index >= EditableLetters()) return;
-  const TypedLetter typed = LetterOfKey(key_code);
+  const TypedLetter typed = LetterOfKey(key_code, ChosenWriting());
   if (typed.stored == 0) return;
   Write(index, typed.stored, typed.shown);
   glavni.rec_poz = index;

@@ -5,11 +5,13 @@
 #include <cmath>
 #include <utility>
 
+#include "crossword/cell.h"
+#include "crossword/direction.h"
 #include "display/grid_geometry.h"
+#include "display/selected_word.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
-#include "solving/word_search.h"
 
 namespace kalvon {
 
@@ -37,10 +39,10 @@ void TakeOldMarkOff() {
     return;
   }
   // The clue click turned no direction, so the opposite of the marked word's is not in `smer`.
-  const Int16 direction = std::exchange(glavni.smer, 3 - glavni.prelaz_smer);
+  const Int16 turned = std::exchange(glavni.smer, direction::Other(glavni.prelaz_smer));
   ugasi_oznaku_reci();
   glavni.prelaz_oba = 0;
-  glavni.smer = direction;
+  glavni.smer = turned;
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "display/clue_lists.h"
+#include "crossword/fields.h"
 
-#include "display/clue_text.h"
+#include "crossword/clue.h"
 #include "display/display_test.h"
 #include "display/fonts.h"
 

@@ -11,8 +11,8 @@
 
 #include "display/clue_page.h"
 #include "display/grid_geometry.h"
+#include "display/selected_word.h"
 #include "shell/toolkit/drawing/surface_p.h"
-#include "solving/word_search.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 

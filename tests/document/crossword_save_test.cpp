@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "document/crossword_save.h"
+#include "crossword/cell.h"
 
 #include <algorithm>
 #include <filesystem>

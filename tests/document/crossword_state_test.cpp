@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/crossword_state.h"
+#include "crossword/cell.h"
+#include "crossword/clue.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +47,8 @@ TEST(Limits, RaiseTheErrorsOfTheProgram) {
   EXPECT_EQ(reading(0, 1) + reading(3, 2) + reading(1, 2), "firstlast");
   constexpr int out_of_range = files::error::subscript_out_of_range;
   for (const auto& [n, c] : {std::pair{-1, 1}, {4, 1}, {0, 0}, {0, 3}}) {
-    EXPECT_EQ(files::pass_over([&, n = n, c = c] { table.Mutable(n, c) = "x"; }), out_of_range) << n << c;
+    EXPECT_EQ(files::pass_over([&, n = n, c = c] { table.Mutable(n, c) = "x"; }), out_of_range)
+        << n << c;
   }
   EXPECT_EQ(files::pass_over([] { glavni.smer = 32768; }), files::error::overflow);
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "document/installments.h"
+#include "crossword/installments.h"
+#include "crossword/fields.h"
+#include "crossword/header.h"
 
 #include <gtest/gtest.h>
 

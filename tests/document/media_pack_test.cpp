@@ -39,7 +39,8 @@ class MediaPackTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    glavni.ukr_ucitana = glavni.app_staza + "velika.qvm";
+    glavni.nast_staza = Table<std::string, 1>(std::array{IndexRange{1, 1}});
+    glavni.nast_staza.Mutable(1) = glavni.app_staza + "velika.qvm";
     glavni.nast_smer = 0;
     glavni.nast_sirina = glavni.nast_visina = 15;
     glavni.pret_x1 = glavni.pret_y1 = 1;
@@ -139,13 +140,13 @@ TEST_F(MediaPackTest, MeetsTablesAndPacksThatDoNotFit) {
 }
 
 TEST_F(MediaPackTest, TakesThePackOfTheInstallmentInWhichTheWordBegins) {
-  glavni.ukr_ucitana = glavni.app_staza + "zima002.qvm";
   glavni.nast_cifre = 3;
-  glavni.nule = "00000";
   glavni.nast_sirina = 8;
   glavni.nast_visina = 10;
   glavni.media_sadrzaj = Table<std::string, 1>(std::array{IndexRange{1, 3}});
+  glavni.nast_staza = Table<std::string, 1>(std::array{IndexRange{1, 3}});
   for (int n = 1; n <= 3; ++n) {
+    glavni.nast_staza.Mutable(n) = glavni.app_staza + "zima00" + std::to_string(n) + ".qvm";
     glavni.media_sadrzaj.Mutable(n) = "/sneg.txt/1";
     WriteFile("zima00" + std::to_string(n) + ".qvd", std::to_string(n));
   }
@@ -157,7 +158,7 @@ TEST_F(MediaPackTest, TakesThePackOfTheInstallmentInWhichTheWordBegins) {
   };
   const Row rows[] = {{1, 1, 1, "1"},   {1, 8, 30, "1"},   {1, 9, 1, "2"},    {1, 24, 1, "3"},
                       {2, 24, 10, "1"}, {2, 1, 11, "2"},   {2, 8, 21, "3"},   {0, 8, 30, "1"},
-                      {0, 9, 1, "2"},   {1, 0, 0, "none"}, {3, 1, 1, "none"}, {1, 25, 1, "none"}};
+                      {0, 9, 1, "2"},   {1, 0, 0, "none"}, {1, 25, 1, "none"}};
   for (const auto& [direction, x, y, cut] : rows) {
     glavni.nast_smer = direction;
     glavni.pret_x1 = x;

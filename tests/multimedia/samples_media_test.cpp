@@ -2,6 +2,7 @@
 #include <QToolButton>
 #include <map>
 
+#include "crossword/fields.h"
 #include "document/media_pack.h"
 #include "multimedia/media_pane.h"
 #include "support/program_test.h"

@@ -161,14 +161,15 @@ TEST_F(LoadDialogTest, ACommandPressedJustBeforeTheDialogOpensIsLost) {
   EXPECT_EQ(ReadFile("aaa.qvm"), other) << "the highlighted file is not the loaded one";
 }
 
-TEST_F(LoadDialogTest, ALoadThatGivesUpLeavesNoMark) {
+TEST_F(LoadDialogTest, ALoadThatGivesUpAtOnceChangesNothing) {
   CopySample("proba.qvm");
   WriteFile("losa.qvm", "\r\nNaziv: Kratka\r\n");
   Load("proba.qvm");
-  EXPECT_EQ(PixelOf("pic_ukr", 26, 26), 0xFFFF7FU);
+  const Crossword before = glavni;
   Load("losa.qvm");
-  EXPECT_EQ(PixelOf("pic_ukr", 26, 26), 0xFFFFFFU);
-  EXPECT_EQ(frm_glavni->txt_rec(0).Text(), "");
+  EXPECT_EQ(static_cast<const Crossword&>(glavni), before);
+  EXPECT_EQ(PixelOf("pic_ukr", 26, 26), 0xFFFF7FU) << "the word stays marked";
+  EXPECT_EQ(glavni.rec_tekst, "___");
   ClickCell(1, 3);
   EXPECT_EQ(PixelOf("pic_ukr", 26, 26), 0xFFFFFFU);
   EXPECT_EQ(PixelOf("pic_ukr", 26, 82), 0xFFFF7FU) << "the next click marks one word";

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "crossword/cell.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 

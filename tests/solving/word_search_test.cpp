@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "solving/word_search.h"
+#include "display/selected_word.h"
 
 #include <array>
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "walk/invariants.h"
+#include "crossword/cell.h"
+#include "display/writing.h"
 
 #include <gtest/gtest.h>
 
@@ -88,7 +90,9 @@ void ExpectEditor(bool typing, bool options_open) {
     const char letter = i < letters ? glavni.rec_tekst[static_cast<std::size_t>(i)] : '\0';
     EXPECT_EQ(frm_glavni->lbl_rec(i).Visible(), i < letters) << i;
     if (options_open && letter != '\0' && letter != '_') continue;
-    const std::string shown = letter == '\0' ? "" : letter == '_' ? "_" : ShownLetter(letter);
+    const std::string shown = letter == '\0'  ? ""
+                              : letter == '_' ? "_"
+                                              : ShownLetter(letter, ChosenWriting());
     EXPECT_EQ(frm_glavni->txt_rec(i).Text(), shown) << i;
   }
   if (typing) return;
@@ -126,7 +130,7 @@ void Invariants::ExpectCells() const {
       if (!IsLetterCell(cell)) continue;
       EXPECT_LE(cell.find('$'), 2U) << cell;
       const auto letter = UserLetter(cell);
-      EXPECT_TRUE(letter.empty() || glavni.azbuka.find(letter) != std::string::npos) << cell;
+      EXPECT_TRUE(letter.empty() || azbuka(false).find(letter) != std::string::npos) << cell;
     }
   }
 }

@@ -3,9 +3,12 @@
 
 #include <vector>
 
-#include "document/crossword_state.h"
+#include "crossword/crossword.h"
 
 namespace kalvon {
+
+/// The cell of the grid that was clicked in the view.
+GridCell ClickedCell();
 
 /// Turns the direction, unless a clue was just clicked, and finds the word through the clicked cell
 /// of the view. Without a word start before the cell the selection comes out empty.

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "solving/letter_boxes.h"
+#include "display/letter_boxes.h"
 
 #include <algorithm>
 #include <string>
 
+#include "crossword/cell.h"
+#include "display/selected_word.h"
+#include "display/writing.h"
 #include "document/crossword_state.h"
 #include "files/run_time_error.h"
-#include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "solving/word_search.h"
 
 namespace kalvon {
 
@@ -40,7 +41,9 @@ void prikazi_rec() {
   const int shown = std::min(static_cast<int>(glavni.rec_tekst.size()), letter_boxes);
   for (int i = 0; i < shown; ++i) {
     const char letter = glavni.rec_tekst[static_cast<std::size_t>(i)];
-    pass_over([&] { frm_glavni->txt_rec(i).Text(letter == '_' ? "_" : ShownLetter(letter)); });
+    pass_over([&] {
+      frm_glavni->txt_rec(i).Text(letter == '_' ? "_" : ShownLetter(letter, ChosenWriting()));
+    });
     pass_over([&] { frm_glavni->lbl_rec(i).Visible(true); });
   }
 

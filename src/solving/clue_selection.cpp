@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "display/clue_selection.h"
+#include "solving/clue_selection.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include "crossword/fields.h"
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
-#include "display/clue_text.h"
 #include "display/grid_geometry.h"
 #include "display/grid_view.h"
 #include "display/word_highlight.h"
@@ -19,6 +19,8 @@
 namespace kalvon {
 
 namespace {
+
+constexpr int right_button = 2;
 
 /// The row of a list, from 1, at a pixel from its top.
 int RowAt(double y) {
@@ -36,15 +38,10 @@ std::optional<PageClue> TakeClickedClue(int strana, int red) {
 
 /// Takes the mark off the word in the grid, which runs in the direction `smer`.
 void UnmarkWord() {
-  const Int16 direction = glavni.smer;
-  glavni.smer = direction == 1 ? 2 : 1;
+  const Int16 of_word = glavni.smer;
+  glavni.smer = direction::Other(of_word);
   ugasi_oznaku_reci();
-  glavni.smer = direction;
-}
-
-/// The first column or row of a view that begins with the given one, as far as the grid allows.
-int FirstShown(int column_or_row, int grid_size) {
-  return std::max(1, std::min(column_or_row, grid_size - view_cells + 1));
+  glavni.smer = of_word;
 }
 
 /// Moves the view to a cell that it doesn't show, in as few directions as needed. Each bar repaints
@@ -98,7 +95,7 @@ void klik_pitanje(int index, int button, double /*x*/, double y) {
   oznaci_pitanje(strana, red);
   BringIntoView(x1, y1);
   ClickFirstCell(strana, x1, y1);
-  if (button == 2 && !Trimmed(glavni.media_fajl).empty())
+  if (button == right_button && !Trimmed(glavni.media_fajl).empty())
     izvuci_media();
   else
     zatvori_media();

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "crossword/installments.h"
+
+#include <algorithm>
+
+#include "crossword/fields.h"
+#include "files/run_time_error.h"
+
+namespace kalvon {
+namespace {
+
+constexpr std::string_view nule = "00000";
+constexpr std::size_t number_length = 3;
+// Only a base of this length has installments.
+constexpr int base_length = 5;
+
+/// Characters of a name in the host's UTF-8.
+std::ptrdiff_t CharactersOf(std::string_view name) {
+  return std::ranges::count_if(name, [](char c) { return (c & 0xC0) != 0x80; });
+}
+
+}  // namespace
+
+std::string_view FileName(std::string_view path) { return path.substr(path.rfind('\\') + 1); }
+
+std::string InstallmentName(std::string_view base, int number, std::string_view extension) {
+  const std::string digits = std::to_string(number);
+  std::string name(base);
+  name.append(nule.substr(0, number_length - std::min(number_length, digits.size())));
+  return name.append(digits).append(".").append(extension);
+}
+
+std::string WithExtension(std::string path, std::string_view extension) {
+  if (path.size() < extension.size()) throw files::RuntimeError(files::error::invalid_call);
+  return path.replace(path.size() - extension.size(), extension.size(), extension);
+}
+
+Installments FindInstallments(std::string_view name, const std::vector<std::string>& folder) {
+  const std::size_t dot = name.find('.');
+  if (dot == std::string_view::npos) throw files::RuntimeError(files::error::invalid_call);
+  const std::string_view bare_name = name.substr(0, dot);
+  const std::string_view number = LastCharacters(bare_name, number_length);
+
+  Installments found{.base = std::string(bare_name)};
+  found.digits =
+      static_cast<int>(std::ranges::count_if(number, [](char c) { return c >= '0' && c <= '9'; }));
+  if (!found.Numbered()) return found;
+
+  found.base.resize(found.base.size() - number_length);
+  found.chosen = DecimalValue(number);
+  found.last = 0;
+  if (CharactersOf(found.base) != base_length) return found;
+  for (const std::string_view file : folder) {
+    if (!file.starts_with(found.base)) continue;
+    found.last = std::max(found.last, DecimalValue(file.substr(found.base.size(), number_length)));
+  }
+  return found;
+}
+
+CellWalk::CellWalk(const Crossword& crossword, int installment)
+    : width_(crossword.nast_sirina),
+      height_(crossword.nast_visina),
+      beside_(crossword.nast_smer == join::side_by_side),
+      installment_(installment) {}
+
+void CellWalk::Next() {
+  if (++column_ <= width_) return;
+  column_ = 1;
+  if (++row_ <= height_) return;
+  row_ = 1;
+  ++installment_;
+}
+
+int CellWalk::x() const { return column_ + (beside_ ? (installment_ - 1) * width_ : 0); }
+
+int CellWalk::y() const { return row_ + (beside_ ? 0 : (installment_ - 1) * height_); }
+
+}  // namespace kalvon
