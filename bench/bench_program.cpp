@@ -48,29 +48,43 @@ std::string CrosswordFile(const FileShape& shape) {
   return text;
 }
 
-BenchProgram::BenchProgram() {
+ScratchFolder::ScratchFolder() {
   QTemporaryDir made(QDir::tempPath() + "/kalvon-bench-XXXXXX");
   made.setAutoRemove(false);
-  folder_ = made.path().toStdString();
+  path_ = made.path().toStdString();
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+std::string ScratchFolder::Write(const std::string& name, const std::string& bytes) const {
+  std::ofstream(path_ / name, std::ios::binary) << bytes;
+  return (path_ / name).string();
+}
+
+std::vector<std::string> WriteInstallments(const ScratchFolder& folder, int count) {
+  const std::string installment = CrosswordFile({.columns = 4, .rows = 4, .side_by_side = true});
+  std::vector<std::string> paths;
+  for (int i = 1; i <= count; ++i)
+    paths.push_back(
+        folder.Write("zima1" + std::to_string(1000 + i).substr(1) + ".qvm", installment));
+  return paths;
+}
+
+BenchProgram::BenchProgram() {
   glavni = CrosswordState{};
-  toolkit::App::Path(files::LogicPath(folder_.string()));
+  toolkit::App::Path(files::LogicPath(folder_.path().string()));
   BindEvents();
   frm_glavni->Show();
 }
 
-BenchProgram::~BenchProgram() {
-  UnloadForms();
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
-
-void BenchProgram::Write(const std::string& name, const std::string& bytes) const {
-  std::ofstream(folder_ / name, std::ios::binary) << bytes;
-}
+BenchProgram::~BenchProgram() { UnloadForms(); }
 
 void BenchProgram::Choose(const std::string& name) const {
   auto& list = frm_ucit_snimi->File1;
-  if (list.ListCount() == 0) list.Path(files::LogicPath(folder_.string()));
+  if (list.ListCount() == 0) list.Path(files::LogicPath(folder_.path().string()));
   otvori_dijalog(0);
   for (int row = 0; row < list.ListCount(); ++row) {
     if (list.List(row) != name) continue;

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace kalvon::bench {
 
@@ -17,6 +18,29 @@ struct FileShape {
 /// third cell, marks included.
 std::string CrosswordFile(const FileShape& shape);
 
+/// The largest crossword that there can be: 16383 cells.
+inline constexpr FileShape largest{.columns = 127, .rows = 129};
+
+/// A temporary folder.
+class ScratchFolder {
+ public:
+  ScratchFolder();
+  ~ScratchFolder();
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+  /// Writes a file and returns its host path.
+  std::string Write(const std::string& name, const std::string& bytes) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// Writes so many installments of the crossword "zima1", of 4 by 4 cells, side by side. Returns
+/// their host paths.
+std::vector<std::string> WriteInstallments(const ScratchFolder& folder, int count);
+
 /// The program, started in a temporary folder that goes with it.
 class BenchProgram {
  public:
@@ -25,14 +49,14 @@ class BenchProgram {
   BenchProgram(const BenchProgram&) = delete;
   BenchProgram& operator=(const BenchProgram&) = delete;
 
-  void Write(const std::string& name, const std::string& bytes) const;
+  [[nodiscard]] const ScratchFolder& folder() const { return folder_; }
   /// Opens the dialog on the file.
   void Choose(const std::string& name) const;
   /// Goes on with the chosen file.
   static void Load();
 
  private:
-  std::filesystem::path folder_;
+  ScratchFolder folder_;
 };
 
 }  // namespace kalvon::bench

@@ -5,13 +5,13 @@
 
 #include "bench_program.h"
 #include "display/clue_lists.h"
-#include "solving/clue_selection.h"
 #include "display/font_change.h"
 #include "display/grid_view.h"
 #include "document/crossword_save.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
+#include "solving/clue_selection.h"
 #include "solving/puzzle_commands.h"
 #include "solving/word_editor.h"
 #include "solving/word_selection.h"
@@ -22,14 +22,13 @@ namespace {
 
 using ::benchmark::State;
 
-constexpr FileShape largest{.columns = 127, .rows = 129};
 constexpr int enter = 0x0D;
 
 /// A program with one crossword on the screen.
 class Loaded : public BenchProgram {
  public:
   explicit Loaded(const FileShape& shape) {
-    Write("merenje.qvm", CrosswordFile(shape));
+    folder().Write("merenje.qvm", CrosswordFile(shape));
     Choose("merenje.qvm");
     Load();
   }
@@ -37,7 +36,7 @@ class Loaded : public BenchProgram {
 
 void LoadLargestFile(State& state) {
   const BenchProgram program;
-  program.Write("merenje.qvm", CrosswordFile(largest));
+  program.folder().Write("merenje.qvm", CrosswordFile(largest));
   for (auto _ : state) {
     state.PauseTiming();
     program.Choose("merenje.qvm");
@@ -48,12 +47,9 @@ void LoadLargestFile(State& state) {
 
 void LoadManyInstallments(State& state) {
   const BenchProgram program;
-  const std::string installment = CrosswordFile({.columns = 4, .rows = 4, .side_by_side = true});
-  for (int i = 1; i <= 2000; ++i) {
-    const std::string number = std::to_string(1000 + i).substr(1);
-    const std::string name = i < 1000 ? "zima1" + number : "druga" + std::to_string(i);
-    program.Write(name + ".qvm", installment);
-  }
+  WriteInstallments(program.folder(), 999);
+  for (int i = 1; i <= 1000; ++i)
+    program.folder().Write("druga" + std::to_string(1000 + i) + ".qvm", "");
   for (auto _ : state) {
     state.PauseTiming();
     program.Choose("zima1500.qvm");
