@@ -19,11 +19,11 @@
 #include "document/installment_reading.h"
 #include "document/installments.h"
 #include "document/load_progress.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "solving/letter_boxes.h"
 
 namespace kalvon {

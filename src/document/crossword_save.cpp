@@ -5,7 +5,8 @@
 
 #include "document/crossword_state.h"
 #include "document/installments.h"
-#include "shell/toolkit/windows/application.h"
+#include "files/file_rewrite.h"
+#include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "document/installments.h"
 #include "document/load_progress.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 
 namespace kalvon {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "document/crossword_state.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 
 namespace kalvon {
 

@@ -13,7 +13,7 @@
 #include "document/media_file.h"
 #include "files/binary_file.h"
 #include "multimedia/media_pane.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
 

@@ -6,6 +6,7 @@
 
 #include "display/fonts.h"
 #include "document/crossword_state.h"
+#include "files/file_rewrite.h"
 #include "files/text_file.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"

@@ -9,7 +9,7 @@
 #include "files/text_file.h"
 #include "letters/letter_conversion.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/events/program_end.h"
 
 namespace kalvon {
 
@@ -124,9 +124,6 @@ void otvori_media() {
     sacekaj(50);  // The picture's GotFocus tells its handle.
     device.hWndDisplay(glavni.media_hwnd);
   }
-  device.Notify(false);
-  device.Wait(true);
-  device.Shareable(false);
   device.FileName(glavni.app_staza + glavni.media_fajl);
   pass_over([&] { device.Command("Open"); });
   if (glavni.media_gotovo == 1) {

@@ -7,7 +7,7 @@
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_opcije.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "solving/word_search.h"
 
 namespace kalvon {
