@@ -4,8 +4,9 @@
 
     include_directions.py ROOT
 
-A file includes only what stands on its own floor or below, headers form no circle, and Qt stays
-in the toolkit; of the files below it, one may include Qt's core. Prints file:line for each breach and fails if there is one.
+A file includes only what stands in its own row of the table below or in a row before it, headers
+form no circle, and Qt stays in the toolkit. Prints file:line for each breach and fails if there is
+one.
 """
 
 import pathlib
@@ -13,29 +14,48 @@ import re
 import sys
 from typing import NamedTuple
 
-# The first pattern that fits a path gives its floor. Paths are relative to src/.
-FLOORS = (
-    (r"files/", 0),
-    (r"shell/toolkit/", 0),
-    (r"shell/forms/", 1),
-    (r"document/crossword_state\.", 1),
-    (r"letters/", 2),
-    (r"(document|display|solving|multimedia)/", 3),
-    (r"shell/main\.cpp$", 5),
-    (r"shell/[^/]+$", 4),
-)
 
-# The state stands on floor 1 but knows of no form, and of the toolkit only its run-time errors.
-STATE = re.compile(r"document/crossword_state\.")
-FOR_STATE = re.compile(r"document/crossword_state\.|files/run_time_error\.")
-TOOLKIT = re.compile(r"shell/toolkit/")
-PRIVATE_HEADER = re.compile(r"shell/toolkit/.+_p\.h$")
+
+class Row(NamedTuple):
+    """Files by their paths below src/, and which of the rows before them they may know."""
+
+    files: str
+    knows: str = ""
+    system: str = r"[a-z]\w*$"  # The headers of the standard library.
+
+
+TOOLKIT = r"shell/toolkit/|files/"
+HOST = r"[a-z]\w*$|[\w/]+\.h$"
+
+# From the lowest up; the first row that fits a path is its own.
+ROWS = (
+    Row(r"files/", "files/", HOST),
+    Row(r"letters/", "letters/"),
+    Row(r"crossword/", "crossword/|letters/|files/"),
+    Row(r"shell/toolkit/events/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/drawing/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/desktop/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/controls/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/input/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/media/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/windows/", TOOLKIT, HOST),
+    Row(r"shell/forms/", "shell/forms/|" + TOOLKIT),
+    Row(r"document/crossword_state\.", r"document/crossword_state\.|crossword/"),
+    Row(r"display/"),
+    Row(r"multimedia/"),
+    Row(r"document/"),
+    Row(r"solving/"),
+    Row(r"shell/(?!main\.cpp)[^/]+$"),
+    Row(r"shell/main\.cpp$"),
+)
 
 # What the files of the host take from Qt's core library.
 CORE_FOR_FILES = {"QString", "QUtf8StringView"}
 
+PRIVATE_HEADER = re.compile(r"shell/toolkit/.+_p\.h$")
+
 # Qt's headers: <QLabel>, <QtWidgets>, <QtWidgets/QLabel>, <qlabel.h>, <private/qlabel_p.h>.
-QT = re.compile(r"(Q[A-Z]\w*|Qt\w*/.+|q\w+\.h|private/q\w+_p\.h)$")
+QT = re.compile(r"(Q[A-Z]\w*|Qt\w+(/.+)?|q\w+\.h|private/q\w+_p\.h)$")
 INCLUDE = re.compile(r'\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
@@ -57,31 +77,36 @@ def read_tree(folder):
     return tree
 
 
-def floor_of(name):
-    return next((floor for pattern, floor in FLOORS if re.match(pattern, name)), None)
+def row_of(name):
+    """The number of the row in which a file stands, or None."""
+    return next((n for n, row in enumerate(ROWS) if re.match(row.files, name)), None)
 
 
 def may_use_qt(name):
-    return bool(TOOLKIT.match(name)) and (name.endswith(".cpp") or bool(PRIVATE_HEADER.match(name)))
+    in_toolkit = name.startswith("shell/toolkit/")
+    return in_toolkit and (name.endswith(".cpp") or bool(PRIVATE_HEADER.match(name)))
 
 
 def breach(name, include, tree):
     """What is wrong with one include of a file in src/, or None."""
-    if QT.match(include.name):
-        fits = may_use_qt(name) or (name.startswith("files/") and include.name in CORE_FOR_FILES)
-        return None if fits else f"<{include.name}> is Qt's, which stays in the toolkit"
+    row = row_of(name)
+    if row is None:
+        return "is in no row"
     if include.name not in tree:
         beside = (pathlib.PurePosixPath(name).parent / include.name).as_posix()
-        return f'"{include.name}" is to be named from src/' if beside in tree else None
+        if beside in tree:
+            return f'"{include.name}" is to be named from src/'
+        if QT.match(include.name):
+            core = name.startswith("files/") and include.name in CORE_FOR_FILES
+            return None if core or may_use_qt(name) else f"<{include.name}> stays in the toolkit"
+        fits = re.match(ROWS[row].system, include.name)
+        return None if fits else f"<{include.name}> is not for this folder"
     if not include.name.endswith(".h"):
         return f'"{include.name}" is no header'
     if PRIVATE_HEADER.match(include.name) and not may_use_qt(name):
         return f'"{include.name}" is private to the toolkit'
-    if STATE.match(name) and not FOR_STATE.match(include.name):
-        return f'"{include.name}" is more than the state may know'
-    floor, included_floor = floor_of(name), floor_of(include.name)
-    if floor is not None and included_floor is not None and included_floor > floor:
-        return f'"{include.name}" is on floor {included_floor}, above floor {floor}'
+    if row_of(include.name) > row or not re.match(ROWS[row].knows, include.name):
+        return f'"{include.name}" is above this file, or not for it'
     return None
 
 
@@ -110,7 +135,7 @@ def check(root):
     tree = read_tree(root / "src")
     if not tree:
         return [f"{root / 'src'}: no sources here"]
-    found = [(name, 1, "is on no floor") for name in tree if floor_of(name) is None]
+    found = []
     for name, includes in tree.items():
         for include in includes:
             text = breach(name, include, tree)

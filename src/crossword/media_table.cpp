@@ -9,7 +9,7 @@
 #include "crossword/fields.h"
 #include "crossword/media_kinds.h"
 #include "files/binary_file.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 
 namespace kalvon {
 namespace {

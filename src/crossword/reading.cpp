@@ -11,6 +11,7 @@
 #include "crossword/header.h"
 #include "crossword/installments.h"
 #include "crossword/numbering.h"
+#include "files/folder_entries.h"
 #include "files/host_paths.h"
 
 namespace kalvon {

@@ -6,6 +6,7 @@
 #include "crossword/cell.h"
 #include "crossword/header.h"
 #include "crossword/installments.h"
+#include "files/file_rewrite.h"
 #include "files/run_time_error.h"
 #include "files/text_file.h"
 

@@ -19,7 +19,6 @@ inline void SetFont(toolkit::Control& control, const std::string& name, double p
   control.FontName(name);
   control.FontSize(points);
   control.FontBold(bold);
-  control.FontItalic(false);
 }
 
 /// Applies an action to each control whose letters follow the options: lists, grid, letter boxes,

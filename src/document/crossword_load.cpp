@@ -9,7 +9,7 @@
 #include "crossword/direction.h"
 #include "crossword/reading.h"
 #include "document/crossword_state.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_ucit_snimi.h"
 

@@ -3,14 +3,13 @@
 
 #include "crossword/writing.h"
 #include "document/crossword_state.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
 
 void snimi_ukrstenicu() {
-  toolkit::Screen::MousePointer(11);
+  const toolkit::Hourglass hourglass;
   WriteCrossword(glavni);
-  toolkit::Screen::MousePointer(0);
 }
 
 }  // namespace kalvon

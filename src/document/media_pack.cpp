@@ -10,13 +10,12 @@
 #include "crossword/media_table.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
 
 namespace {
 
-constexpr int hourglass = 11;
 /// The installment in which the selected word begins, 0 if that cannot be told.
 int InstallmentOfWord() {
   const bool down = glavni.nast_smer == join::one_under_the_other;
@@ -44,11 +43,10 @@ std::string TypeOf(std::string_view name) {
 
 void izvuci_media() {
   obrisi_temp();
-  toolkit::Screen::MousePointer(hourglass);
+  const toolkit::Hourglass hourglass;
   files::pass_over([] { Extract(); });
   // What is no medium in the program's folder is not looked at: the pane shows the clue alone.
   prikazi_media(MayNameMedium(glavni.media_fajl) ? TypeOf(glavni.media_fajl) : "");
-  toolkit::Screen::MousePointer(0);
 }
 
 }  // namespace kalvon

@@ -8,6 +8,7 @@
 #include "crossword/media_table.h"
 #include "display/fonts.h"
 #include "document/crossword_state.h"
+#include "files/file_rewrite.h"
 #include "files/text_file.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"

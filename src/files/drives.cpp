@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "files/drives.h"
+
 #include <algorithm>
 #include <fstream>
-#include <string>
 #include <string_view>
-#include <vector>
-
-#include "files/host_paths.h"
 
 namespace files {
 

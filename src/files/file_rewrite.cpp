@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "files/file_rewrite.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -14,7 +16,6 @@
 #include "files/descriptor.h"
 #include "files/host_paths.h"
 #include "files/run_time_error.h"
-#include "files/text_file.h"
 
 namespace files {
 

@@ -3,26 +3,12 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace files {
 
 // Paths as the logic speaks them, `c:\folder\name`, and as the host does. On a POSIX host `c:` is
 // the root and further letters are the mounted media. Names are bytes of the host's own encoding.
 // A name that holds "\" cannot be spoken of.
-
-/// A drive: its letter, the host folder where it is mounted, and its row in a list.
-struct Drive {
-  char letter;
-  std::string mounted_at;
-  std::string row;
-};
-
-/// The drives that there are now, `c:` first.
-std::vector<Drive> Drives();
-
-/// Lets another file stand for the host's table of mounted media.
-void MountTable(const std::string& host_path);
 
 /// The host path of a path of the logic, resolved component by component without regard to case,
 /// an exact match first. Components that do not exist are taken as they stand, "." and ".." by
@@ -38,20 +24,7 @@ std::string LogicPath(std::string_view host_path);
 /// final "\" unless it is a drive's root. Errors as for HostPath.
 std::string PathOnDisk(std::string_view path);
 
-/// Lower case, in the host's encoding; in bytes that are no text only the letters of ASCII change.
-std::string LowerCase(std::string_view text);
-
 /// A path with "\" added if it does not end in one.
 std::string WithBackslash(std::string path);
-
-/// Entries of a folder, without the hidden ones, sorted without regard to case. Whatever is no
-/// folder counts as a file.
-struct FolderEntries {
-  std::vector<std::string> folders;
-  std::vector<std::string> files;
-};
-
-/// Reads a folder, given by a path of the logic. Error 76 if it is missing or cannot be read.
-FolderEntries ReadFolder(std::string_view path);
 
 }  // namespace files

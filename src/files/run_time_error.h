@@ -2,6 +2,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 
 namespace files {
 
@@ -9,7 +10,6 @@ namespace files {
 namespace error {
 inline constexpr int invalid_call = 5;
 inline constexpr int overflow = 6;
-inline constexpr int out_of_memory = 7;
 inline constexpr int subscript_out_of_range = 9;
 inline constexpr int out_of_string_space = 14;
 inline constexpr int file_not_found = 53;
@@ -30,7 +30,8 @@ inline constexpr int invalid_picture = 481;
 /// A failed operation of the layer or of the crossword state.
 class RuntimeError : public std::runtime_error {
  public:
-  explicit RuntimeError(int number);
+  explicit RuntimeError(int number)
+      : std::runtime_error("run-time error " + std::to_string(number)), number_(number) {}
 
   /// One of the numbers of the namespace error.
   [[nodiscard]] int number() const { return number_; }

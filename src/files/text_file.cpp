@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "files/text_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 
 #include "files/descriptor.h"
 #include "files/host_paths.h"
@@ -74,22 +71,6 @@ std::string TextReader::Line() {
 void Kill(std::string_view path) {
   if (unlink(HostPath(path).c_str()) == 0) return;
   throw RuntimeError(NoSuchFile(errno) ? error::file_not_found : error::permission_denied);
-}
-
-void Name(std::string_view from, std::string_view to) {
-  constexpr int file_already_exists = 58;
-  const std::string old_name = HostPath(from);
-  const std::string new_name = HostPath(to);
-  // Not every file system can refuse to replace a file; then a look beforehand has to do.
-  int result = renameat2(AT_FDCWD, old_name.c_str(), AT_FDCWD, new_name.c_str(), RENAME_NOREPLACE);
-  if (result != 0 && (errno == EINVAL || errno == ENOSYS)) {
-    struct stat status {};
-    if (lstat(new_name.c_str(), &status) == 0) throw RuntimeError(file_already_exists);
-    result = rename(old_name.c_str(), new_name.c_str());
-  }
-  if (result == 0) return;
-  if (errno == EEXIST) throw RuntimeError(file_already_exists);
-  throw RuntimeError(NoSuchFile(errno) ? error::file_not_found : error::path_file_access);
 }
 
 }  // namespace files

@@ -11,7 +11,7 @@
 #include "document/crossword_state.h"
 #include "files/text_file.h"
 #include "shell/forms/frm_glavni.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/events/program_end.h"
 
 namespace kalvon {
 
@@ -145,9 +145,6 @@ void otvori_media() {
     sacekaj(50);  // The picture's GotFocus tells its handle.
     device.hWndDisplay(glavni.media_hwnd);
   }
-  device.Notify(false);
-  device.Wait(true);
-  device.Shareable(false);
   device.FileName(glavni.app_staza + glavni.media_fajl);
   pass_over([&] { device.Command("Open"); });
   if (glavni.media_gotovo == 1) {

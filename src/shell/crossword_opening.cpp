@@ -21,7 +21,7 @@
 #include "document/load_progress.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "solving/clue_selection.h"
 
 namespace kalvon {
@@ -158,16 +158,14 @@ void ShowUnselected() {
 }  // namespace
 
 void ucitaj_ukrstenicu() {
-  toolkit::Screen::MousePointer(11);
+  const toolkit::Hourglass hourglass;
   Crossword opened;
-  if (files::pass_over([&] { opened = OpenChosenCrossword(); }) == 0) {
-    try {
-      Show(std::move(opened));
-    } catch (const files::RuntimeError&) {
-      ShowUnselected();
-    }
+  if (files::pass_over([&] { opened = OpenChosenCrossword(); }) != 0) return;
+  try {
+    Show(std::move(opened));
+  } catch (const files::RuntimeError&) {
+    ShowUnselected();
   }
-  toolkit::Screen::MousePointer(0);
 }
 
 }  // namespace kalvon

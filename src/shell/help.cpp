@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "document/crossword_state.h"
-#include "files/host_paths.h"
+#include "files/folder_entries.h"
 #include "shell/browser_link.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_help.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/events.h"
 #include "shell/forms/frm_glavni.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
 
 int main(int argc, char** argv) {

@@ -13,6 +13,8 @@
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/options_dialog.h"
+#include "shell/toolkit/desktop/screen.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
 
 namespace kalvon {

@@ -9,7 +9,7 @@
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_opcije.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
 
@@ -29,15 +29,6 @@ void ShowChange() {
   crtaj_ukrstenicu();
   oznaci_rec(0);
 }
-
-/// The hourglass, until the end of the block.
-class Busy {
- public:
-  Busy() { toolkit::Screen::MousePointer(11); }
-  ~Busy() { toolkit::Screen::MousePointer(0); }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-};
 
 void Change(std::string& cell, PuzzleOperation operation) {
   if (operation == PuzzleOperation::solve_all) {
@@ -61,7 +52,7 @@ void brisi_rec() {
 }
 
 void operacija_celine(PuzzleOperation operation) {
-  const Busy busy;
+  const toolkit::Hourglass hourglass;
   std::int32_t wrong_letters = 0;
   for (int x = 1; x <= glavni.ukr_sirina; ++x) {
     for (int y = 1; y <= glavni.ukr_visina; ++y) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 

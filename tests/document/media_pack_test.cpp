@@ -7,7 +7,7 @@
 #include <set>
 
 #include "multimedia/media_pane.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "files/host_paths.h"
+#include "files/drives.h"
+#include "files/folder_entries.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -145,7 +147,7 @@ TEST_F(HostPathsTest, ListsAFolderAsTheDiskHasIt) {
   fs::create_symlink("nema", Host("visi.qvm"));
   ASSERT_EQ(mkfifo(Host("cev.qvm").c_str(), 0600), 0);
 
-  const files::FolderEntries entries = files::ReadFolder(Logic());
+  const files::FolderEntries entries = files::ReadFolder(HostPath(Logic()));
   EXPECT_EQ(entries.folders, (std::vector<std::string>{"Druga", "Fascikla.qvm"}));
   EXPECT_EQ(entries.files, (std::vector<std::string>{"A.qvm", "a.qvm", "b.qvm", "cev.qvm", no_text,
                                                      "visi.qvm", "Čas.qvm"}));
@@ -155,8 +157,8 @@ TEST_F(HostPathsTest, ListsAFolderAsTheDiskHasIt) {
 
 TEST_F(HostPathsTest, CannotReadAFolderThatIsNone) {
   MakeFile("datoteka");
-  EXPECT_EQ(files::pass_over([&] { files::ReadFolder(Logic("nema")); }), 76);
-  EXPECT_EQ(files::pass_over([&] { files::ReadFolder(Logic("datoteka")); }), 76);
+  EXPECT_EQ(files::pass_over([&] { files::ReadFolder(Host("nema")); }), 76);
+  EXPECT_EQ(files::pass_over([&] { files::ReadFolder(Host("datoteka")); }), 76);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/events/program_end.h"
 #include "support/bitmap_files.h"
 #include "support/crossword_text.h"
 #include "support/media_files.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/browser_link.h"
+#include "files/folder_entries.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -7,8 +7,9 @@
 #include <algorithm>
 #include <fstream>
 
+#include "files/drives.h"
 #include "files/host_paths.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/desktop/screen.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {

@@ -5,6 +5,8 @@
 #include <csignal>
 
 #include "shell/commands.h"
+#include "shell/toolkit/desktop/screen.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
 #include "shell/toolkit/windows/end_requests_p.h"
 #include "support/program_test.h"

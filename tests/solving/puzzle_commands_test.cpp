@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "solving/puzzle_commands.h"
+#include "shell/toolkit/desktop/screen.h"
 
-#include "shell/toolkit/windows/application.h"
 #include "solving/solving_test.h"
 
 namespace kalvon::testing {

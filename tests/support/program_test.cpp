@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/program_test.h"
+#include "shell/toolkit/events/program_end.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

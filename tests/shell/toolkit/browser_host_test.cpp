@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/desktop/browser_host.h"
+#include "files/folder_entries.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include <stdexcept>
 
 #include "shell/toolkit/control_form.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/events/program_end.h"
 
 namespace toolkit::testing {
 namespace {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/input/file_lists.h"
+#include "files/drives.h"
+#include "files/folder_entries.h"
 
 #include <gtest/gtest.h>
 

@@ -42,9 +42,6 @@ TEST_F(PictureBoxTest, BoxesAndSegmentsHaveBothCorners) {
   EXPECT_EQ(Pixel(30, 2), 0U);
   EXPECT_EQ(Pixel(34, 2), 0U);
   EXPECT_EQ(Pixel(35, 2), 0xFFFFFFU);
-  form.picture.Box(40, 10, 44, 14, 0);
-  EXPECT_EQ(Pixel(44, 14), 0U);
-  EXPECT_EQ(Pixel(42, 12), 0xFFFFFFU);
 }
 
 TEST_F(PictureBoxTest, TheExclusiveOrPenRestoresEveryPixel) {

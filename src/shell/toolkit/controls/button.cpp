@@ -7,7 +7,6 @@
 #include <QShortcut>
 
 #include "shell/toolkit/controls/captions_p.h"
-#include "shell/toolkit/windows/form.h"
 
 namespace toolkit {
 
@@ -33,7 +32,7 @@ Button::Button(Container& parent, const ControlSheet& sheet)
   // A press by its Alt key letter lasts a moment, in which another command may have disabled or
   // hidden the form.
   QObject::connect(button, &QPushButton::clicked, button, [this] {
-    const Form& form = this->parent().OwningForm();
+    const Window& form = this->parent().OwningWindow();
     if (form.Enabled() && form.Visible()) Click.Raise();
   });
   StopTabHere();
@@ -43,7 +42,7 @@ Button::Button(Container& parent, const ControlSheet& sheet)
 void Button::Default() {
   auto* button = static_cast<QPushButton*>(widget());
   for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-    auto* shortcut = new QShortcut(key, parent().OwningForm().InnerWidget());
+    auto* shortcut = new QShortcut(key, parent().OwningWindow().InnerWidget());
     QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
   }
 }

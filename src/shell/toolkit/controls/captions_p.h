@@ -4,6 +4,7 @@
 #include <QString>
 #include <string>
 
+#include "shell/toolkit/controls/control.h"
 #include "shell/toolkit/drawing/face_p.h"
 
 namespace toolkit {
@@ -15,6 +16,17 @@ inline QString CaptionWithMnemonic(const std::string& caption, const Face& face)
   QString shown = face.Shown(caption.substr(0, mark)).replace(u'&', QStringLiteral("&&"));
   if (mark == std::string::npos) return shown;
   return shown + u'&' + face.Shown(caption.substr(mark + 1)).replace(u'&', QStringLiteral("&&"));
+}
+
+inline Qt::Alignment HostAlignment(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::right:
+      return Qt::AlignRight;
+    case Alignment::center:
+      return Qt::AlignHCenter;
+    default:
+      return Qt::AlignLeft;
+  }
 }
 
 }  // namespace toolkit

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "files/run_time_error.h"
+#include "shell/toolkit/controls/replace.h"
 #include "shell/toolkit/drawing/face_p.h"
-#include "shell/toolkit/windows/form.h"
 
 namespace toolkit {
 
@@ -61,30 +61,22 @@ Control::Control(Container& parent, const ControlSheet& sheet, std::unique_ptr<Q
   Control::FontChanged();
 }
 
-Control::~Control() { parent_.OwningForm().Unregister(*this); }
+Control::~Control() = default;
 
 void Control::Left(int left) {
-  if (left == place_.left) return;
-  place_.left = left;
-  ApplyPlace();
+  if (Replace(place_.left, left)) ApplyPlace();
 }
 
 void Control::Top(int top) {
-  if (top == place_.top) return;
-  place_.top = top;
-  ApplyPlace();
+  if (Replace(place_.top, top)) ApplyPlace();
 }
 
 void Control::Width(int width) {
-  if (width == place_.width) return;
-  place_.width = width;
-  ApplyPlace();
+  if (Replace(place_.width, width)) ApplyPlace();
 }
 
 void Control::Height(int height) {
-  if (height == place_.height) return;
-  place_.height = height;
-  ApplyPlace();
+  if (Replace(place_.height, height)) ApplyPlace();
 }
 
 void Control::PlaceWidget() {
@@ -108,58 +100,38 @@ void Control::TakeSize(int width_in_pixels, int height_in_pixels) {
 }
 
 void Control::Visible(bool visible) {
-  if (visible == visible_) return;
-  visible_ = visible;
-  widget_->setVisible(visible);
+  if (Replace(visible_, visible)) widget_->setVisible(visible);
 }
 
 void Control::Enabled(bool enabled) {
-  if (enabled == enabled_) return;
-  enabled_ = enabled;
-  widget_->setEnabled(enabled);
+  if (Replace(enabled_, enabled)) widget_->setEnabled(enabled);
 }
 
 void Control::BringToFront() { widget_->raise(); }
 
 void Control::SetFocus() {
-  if (!widget_->isVisible() || !widget_->isEnabled() || !parent_.OwningForm().Enabled())
+  if (!widget_->isVisible() || !widget_->isEnabled() || !parent_.OwningWindow().Enabled())
     throw files::RuntimeError(files::error::invalid_call);
   widget_->setFocus();
 }
 
 void Control::FontName(const std::string& name) {
-  if (name == font_name_) return;
-  font_name_ = name;
-  FontChanged();
+  if (Replace(font_name_, name)) FontChanged();
 }
 
 void Control::FontSize(double points) {
-  if (points == font_size_) return;
-  font_size_ = points;
-  FontChanged();
+  if (Replace(font_size_, points)) FontChanged();
 }
 
 void Control::FontBold(bool bold) {
-  if (bold == font_bold_) return;
-  font_bold_ = bold;
-  FontChanged();
-}
-
-void Control::FontItalic(bool italic) {
-  if (italic == font_italic_) return;
-  font_italic_ = italic;
-  FontChanged();
+  if (Replace(font_bold_, bold)) FontChanged();
 }
 
 void Control::Charset(int charset) {
-  if (charset == charset_) return;
-  charset_ = charset;
-  FontChanged();
+  if (Replace(charset_, charset)) FontChanged();
 }
 
-Face& Control::FaceInUse() const {
-  return Face::Of(font_name_, font_size_, font_bold_, font_italic_, charset_);
-}
+Face& Control::FaceInUse() const { return Face::Of(font_name_, font_size_, font_bold_, charset_); }
 
 void Control::FontChanged() { widget_->setFont(FaceInUse().font()); }
 
@@ -167,7 +139,7 @@ void Control::PlaceChanged() {}
 
 void Control::StopTabHere(FocusBy way) {
   widget_->setFocusPolicy(way == FocusBy::tab_and_click ? Qt::StrongFocus : Qt::TabFocus);
-  parent_.OwningForm().Register(*this, widget_.get());
+  parent_.OwningWindow().AddTabStop(tab_index_, widget_.get());
 }
 
 }  // namespace toolkit

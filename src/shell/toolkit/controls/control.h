@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "shell/toolkit/controls/container.h"
 #include "shell/toolkit/events/event.h"
 
 class QWidget;
@@ -11,18 +12,11 @@ class QWidget;
 namespace toolkit {
 
 class Face;
-class Form;
 
 /// How the user can give a control the focus.
 enum class FocusBy { tab_and_click, tab_alone };
 
-/// Scale of a form or picture: what one unit of the coordinates inside it is.
-enum class Scale { twips = 1, pixels = 3 };
-
 enum class Alignment { left, right, center };
-
-/// Twips to one pixel of the design.
-inline constexpr int twips_per_pixel = 15;
 
 /// Position and size in the scale of the parent.
 struct Place {
@@ -41,22 +35,6 @@ struct ControlSheet {
   int index = -1;  ///< Index in its control array, -1 outside an array.
 };
 
-/// Anything that controls can stand in: a form, a frame, a picture.
-class Container {
- public:
-  Container(const Container&) = delete;
-  Container& operator=(const Container&) = delete;
-  virtual ~Container() = default;
-
-  /// The scale of the coordinates of the controls inside.
-  [[nodiscard]] virtual Scale InnerScale() const = 0;
-  virtual QWidget* InnerWidget() = 0;
-  virtual Form& OwningForm() = 0;
-
- protected:
-  Container() = default;
-};
-
 /// What every control has. A control is the sole owner of its widget, whose object name is the
 /// control's name with its index, as in "cmd_glavni(0)".
 class Control {
@@ -66,7 +44,6 @@ class Control {
   virtual ~Control();
 
   [[nodiscard]] int Index() const { return index_; }
-  [[nodiscard]] int TabIndex() const { return tab_index_; }
 
   // Position and size in the scale of the parent.
   [[nodiscard]] int Left() const { return place_.left; }
@@ -98,10 +75,7 @@ class Control {
   /// Points.
   [[nodiscard]] double FontSize() const { return font_size_; }
   void FontSize(double points);
-  [[nodiscard]] bool FontBold() const { return font_bold_; }
   void FontBold(bool bold);
-  [[nodiscard]] bool FontItalic() const { return font_italic_; }
-  void FontItalic(bool italic);
   /// Character set of the font: 0 the font's own, 204 Windows-1251, 238 Windows-1250.
   [[nodiscard]] int Charset() const { return charset_; }
   void Charset(int charset);
@@ -137,7 +111,6 @@ class Control {
   std::string font_name_ = "MS Sans Serif";
   double font_size_ = 8.25;
   bool font_bold_ = false;
-  bool font_italic_ = false;
   int charset_ = 0;
 };
 

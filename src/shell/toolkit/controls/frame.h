@@ -11,8 +11,8 @@ class Frame : public CaptionedControl, public Container {
   Frame(Container& parent, const ControlSheet& sheet);
 
   [[nodiscard]] Scale InnerScale() const override { return parent().InnerScale(); }
-  QWidget* InnerWidget() override { return widget(); }
-  Form& OwningForm() override { return parent().OwningForm(); }
+  [[nodiscard]] QWidget* InnerWidget() const override { return widget(); }
+  Window& OwningWindow() override { return parent().OwningWindow(); }
 
  protected:
   void ShowCaption() override;

@@ -3,31 +3,16 @@
 
 #include <QLabel>
 
-#include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/controls/captions_p.h"
 
 namespace toolkit {
-
-namespace {
-
-Qt::Alignment HostAlignment(Alignment alignment) {
-  switch (alignment) {
-    case Alignment::right:
-      return Qt::AlignRight | Qt::AlignTop;
-    case Alignment::center:
-      return Qt::AlignHCenter | Qt::AlignTop;
-    default:
-      return Qt::AlignLeft | Qt::AlignTop;
-  }
-}
-
-}  // namespace
 
 Label::Label(Container& parent, const ControlSheet& sheet)
     : CaptionedControl(parent, sheet, std::make_unique<QLabel>()) {
   auto* label = static_cast<QLabel*>(widget());
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
-  label->setAlignment(HostAlignment(Alignment::left));
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   Caption(sheet.caption);
 }
 
@@ -38,7 +23,7 @@ void Label::AutoSize(bool auto_size) {
 }
 
 void Label::Align(Alignment alignment) {
-  static_cast<QLabel*>(widget())->setAlignment(HostAlignment(alignment));
+  static_cast<QLabel*>(widget())->setAlignment(HostAlignment(alignment) | Qt::AlignTop);
 }
 
 void Label::Boxed() {

@@ -12,7 +12,6 @@ class Label : public CaptionedControl {
   Label(Container& parent, const ControlSheet& sheet);
 
   /// The label takes the size of its caption, at once.
-  [[nodiscard]] bool AutoSize() const { return auto_size_; }
   void AutoSize(bool auto_size);
 
   void Align(Alignment alignment);

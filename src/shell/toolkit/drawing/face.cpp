@@ -31,7 +31,7 @@ QStringList InstalledFonts(TextCode code) {
           QStringLiteral("DejaVu Sans")};
 }
 
-using FaceKey = std::tuple<std::string, double, bool, bool, int>;
+using FaceKey = std::tuple<std::string, double, bool, int>;
 
 std::map<FaceKey, std::unique_ptr<Face>>& Faces() {
   static std::map<FaceKey, std::unique_ptr<Face>> faces;
@@ -45,14 +45,13 @@ Face::Face(const QFont& font, TextCode code) : font_(font), metrics_(font), code
   room_for_carons_ = std::max(0, caron_top - metrics_.ascent());
 }
 
-Face& Face::Of(const std::string& name, double points, bool bold, bool italic, int charset) {
-  auto& face = Faces()[{name, points, bold, italic, charset}];
+Face& Face::Of(const std::string& name, double points, bool bold, int charset) {
+  auto& face = Faces()[{name, points, bold, charset}];
   if (!face) {
     const TextCode code = TextCodeOf(name, charset);
     QFont font(InstalledFonts(code));
     font.setPixelSize(PixelSize(points, code));
     font.setBold(bold);
-    font.setItalic(italic);
     font.setHintingPreference(QFont::PreferFullHinting);
     face = std::make_unique<Face>(font, code);
   }

@@ -21,7 +21,7 @@ class Face {
   };
 
   /// The face of a font name, a size in points, and so on. It lives as long as the application.
-  static Face& Of(const std::string& name, double points, bool bold, bool italic, int charset);
+  static Face& Of(const std::string& name, double points, bool bold, int charset);
 
   /// Forgets all faces: the application ends.
   static void ForgetAll();

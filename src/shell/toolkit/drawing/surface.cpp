@@ -3,10 +3,10 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QWheelEvent>
+#include <utility>
 
 #include "shell/toolkit/drawing/surface_p.h"
 #include "shell/toolkit/events/key_codes_p.h"
-#include "shell/toolkit/input/picture_box.h"
 
 namespace toolkit {
 
@@ -25,8 +25,6 @@ int ButtonNumber(Qt::MouseButton button) {
 
 }  // namespace
 
-Surface::Surface(PictureBox& box) : box_(box) { setAttribute(Qt::WA_OpaquePaintEvent); }
-
 QPainter& Surface::Painter(QPainter::CompositionMode mode) {
   if (!painter_.isActive()) painter_.begin(&image_);
   if (painter_.compositionMode() != mode) painter_.setCompositionMode(mode);
@@ -35,7 +33,7 @@ QPainter& Surface::Painter(QPainter::CompositionMode mode) {
 
 void Surface::Drawn(const QRect& part) {
   // What is drawn without persistence goes to the screen at once, as the progress of a load must.
-  if (box_.persistent_ || !isVisible())
+  if (persistent || !isVisible())
     update(part);
   else
     repaint(part);
@@ -93,15 +91,13 @@ void Surface::showEvent(QShowEvent* event) {
 
 void Surface::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  if (!box_.persistent_) Clear(background_);
+  if (!persistent) Clear(background_);
   if (frame_) frame_->setVisible(!isHidden());
 }
 
 void Surface::mousePressEvent(QMouseEvent* event) {
-  pressed_ = true;
-  const double units = box_.scale_ == Scale::pixels ? 1 : twips_per_pixel;
-  box_.MouseDown.Raise(ButtonNumber(event->button()), ShiftState(event->modifiers()),
-                       event->position().x() * units, event->position().y() * units);
+  held_ = true;
+  pressed(ButtonNumber(event->button()), ShiftState(event->modifiers()), event->position());
 }
 
 void Surface::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -111,9 +107,8 @@ void Surface::wheelEvent(QWheelEvent* event) {
 }
 
 void Surface::mouseReleaseEvent(QMouseEvent* event) {
-  const bool clicked = pressed_ && rect().contains(event->position().toPoint());
-  pressed_ = false;
-  if (clicked) box_.Click.Raise();
+  const bool held = std::exchange(held_, false);
+  if (held && rect().contains(event->position().toPoint())) clicked();
 }
 
 }  // namespace toolkit

@@ -5,16 +5,22 @@
 #include <QPainter>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 namespace toolkit {
-
-class PictureBox;
 
 /// The widget of a picture: an image that keeps what is drawn; painting only copies it. The image
 /// has the screen's pixel ratio, while all coordinates are the logical ones.
 class Surface : public QWidget {
  public:
-  explicit Surface(PictureBox& box);
+  Surface() { setAttribute(Qt::WA_OpaquePaintEvent); }
+
+  /// What is drawn stays while the surface is hidden.
+  bool persistent = true;
+  /// A mouse button was pressed: its number, the Shift state, and the place in pixels.
+  std::function<void(int, int, QPointF)> pressed;
+  /// It was let go on the surface.
+  std::function<void()> clicked;
 
   /// The painter of the image, which stays open between drawing calls: opening one for each letter
   /// of a grid would cost more than the letters.
@@ -45,11 +51,10 @@ class Surface : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  PictureBox& box_;
   QImage image_;
   QPainter painter_;
   QColor background_ = Qt::white;
-  bool pressed_ = false;
+  bool held_ = false;
   QPointer<QWidget> frame_;
   QPointer<QWidget> wheel_bar_;
 };

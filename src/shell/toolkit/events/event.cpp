@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "files/run_time_error.h"
-#include "shell/toolkit/windows/application.h"
+#include "shell/toolkit/events/program_end.h"
 
 namespace toolkit {
 

@@ -6,7 +6,8 @@
 #include <functional>
 #include <utility>
 
-#include "files/host_paths.h"
+#include "files/drives.h"
+#include "files/folder_entries.h"
 #include "files/run_time_error.h"
 #include "shell/toolkit/input/file_lists.h"
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "files/folder_entries.h"
 #include "files/host_paths.h"
 #include "files/run_time_error.h"
 #include "shell/toolkit/drawing/face_p.h"
@@ -153,8 +154,7 @@ FileList::FileList(Container& parent, const ControlSheet& sheet)
 FileList::View& FileList::view() const { return static_cast<View&>(*widget()); }
 
 void FileList::Path(const std::string& path) {
-  all_names_ = files::ReadFolder(path).files;
-  path_ = files::PathOnDisk(path);
+  all_names_ = files::ReadFolder(files::HostPath(path)).files;
   Fill();
 }
 

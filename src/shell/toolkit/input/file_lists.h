@@ -62,10 +62,8 @@ class FileList : public Control {
  public:
   FileList(Container& parent, const ControlSheet& sheet);
 
-  [[nodiscard]] const std::string& Path() const { return path_; }
   /// Reads the folder anew. Error 76 if it cannot be read; the list stays as it was.
   void Path(const std::string& path);
-  [[nodiscard]] const std::string& Pattern() const { return pattern_; }
   /// A filter like "*.qvm", matched without regard to case: "*" stands for any characters, "?" for
   /// one, and ";" divides several filters. "*.*" lets every file through.
   void Pattern(const std::string& pattern);
@@ -92,7 +90,6 @@ class FileList : public Control {
   [[nodiscard]] View& view() const;
   void Fill();
 
-  std::string path_;
   std::string pattern_ = "*.*";
   std::vector<std::string> all_names_;
   std::vector<std::string> names_;

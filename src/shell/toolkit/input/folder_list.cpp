@@ -8,6 +8,7 @@
 #include <functional>
 #include <utility>
 
+#include "files/folder_entries.h"
 #include "files/host_paths.h"
 #include "files/run_time_error.h"
 #include "shell/toolkit/input/file_lists.h"
@@ -90,7 +91,7 @@ void FolderList::OpenRow(int row) {
 }
 
 bool FolderList::ShowFolder(const std::string& path) {
-  const std::vector<std::string> folders = files::ReadFolder(path).folders;
+  const std::vector<std::string> folders = files::ReadFolder(files::HostPath(path)).folders;
   const std::string before = std::exchange(path_, files::PathOnDisk(path));
 
   auto* const list = static_cast<QListWidget*>(widget());

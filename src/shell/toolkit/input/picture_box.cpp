@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/input/picture_box.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <numbers>
 
@@ -18,10 +17,6 @@ QColor HostColour(Colour colour) {
           static_cast<int>((colour >> 16U) & 0xFFU)};
 }
 
-QRect Corners(int x1, int y1, int x2, int y2) {
-  return QRect(QPoint(x1, y1), QPoint(x2, y2)).normalized();
-}
-
 QPainter::CompositionMode HostMode(DrawMode mode) {
   return mode == DrawMode::exclusive_or ? QPainter::RasterOp_SourceXorDestination
                                         : QPainter::CompositionMode_SourceOver;
@@ -30,7 +25,12 @@ QPainter::CompositionMode HostMode(DrawMode mode) {
 }  // namespace
 
 PictureBox::PictureBox(Container& parent, const ControlSheet& sheet)
-    : Control(parent, sheet, std::make_unique<Surface>(*this)) {
+    : Control(parent, sheet, std::make_unique<Surface>()) {
+  surface().pressed = [this](int button, int shift, QPointF place) {
+    const double units = scale_ == Scale::pixels ? 1 : twips_per_pixel;
+    MouseDown.Raise(button, shift, place.x() * units, place.y() * units);
+  };
+  surface().clicked = [this] { Click.Raise(); };
   surface().Fit();
   surface().Clear(HostColour(back_color_));
 }
@@ -48,6 +48,8 @@ void PictureBox::Picture(const toolkit::Picture& picture) {
   if (!picture.Empty()) PaintPicture(picture, 0, 0);
 }
 
+void PictureBox::Persistent(bool persistent) { surface().persistent = persistent; }
+
 void PictureBox::Framed() { surface().AddFrame(); }
 
 void PictureBox::WheelMoves(ScrollBar& bar) { surface().SendWheelTo(bar.widget()); }
@@ -57,30 +59,9 @@ void PictureBox::BackColor(Colour colour) {
   surface().Clear(HostColour(colour));
 }
 
-void PictureBox::Line(int x1, int y1, int x2, int y2, Colour colour) {
-  const QPoint from(Pixels(x1), Pixels(y1));
-  const QPoint to(Pixels(x2), Pixels(y2));
-  if (from.x() == to.x() || from.y() == to.y()) {
-    // A filled line covers whole units on a dense display too, where a pen is off by half of one.
-    FilledBox(x1, y1, x2, y2, colour);
-    return;
-  }
-  QPainter& painter = surface().Painter(HostMode(draw_mode_));
-  painter.setPen(HostColour(colour));
-  painter.drawLine(from, to);
-  surface().Drawn(QRect(from, to).normalized());
-}
-
-void PictureBox::Box(int x1, int y1, int x2, int y2, Colour colour) {
-  const QRect box = Corners(Pixels(x1), Pixels(y1), Pixels(x2), Pixels(y2));
-  QPainter& painter = surface().Painter(HostMode(draw_mode_));
-  painter.setPen(HostColour(colour));
-  painter.drawRect(box.adjusted(0, 0, -1, -1));
-  surface().Drawn(box);
-}
-
 void PictureBox::FilledBox(int x1, int y1, int x2, int y2, Colour colour) {
-  const QRect box = Corners(Pixels(x1), Pixels(y1), Pixels(x2), Pixels(y2));
+  const QRect box =
+      QRect(QPoint(Pixels(x1), Pixels(y1)), QPoint(Pixels(x2), Pixels(y2))).normalized();
   surface().Painter(HostMode(draw_mode_)).fillRect(box, HostColour(colour));
   surface().Drawn(box);
 }
@@ -93,7 +74,7 @@ void PictureBox::Circle(int x, int y, int radius, float start, float end) {
   const int r = Pixels(radius);
   const QRect around(Pixels(x) - r, Pixels(y) - r, 2 * r, 2 * r);
   QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
-  painter.setPen(HostColour(fore_color_));
+  painter.setPen(Qt::black);
   painter.drawArc(around, from, ((to - from) % whole_circle + whole_circle) % whole_circle);
   surface().Drawn(around.adjusted(0, 0, 1, 1));
 }
@@ -104,7 +85,7 @@ void PictureBox::Print(const std::string& text) {
   const QPoint at(Pixels(current_x_), Pixels(current_y_) + face.RoomForCarons());
   QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
   painter.setFont(face.font());
-  painter.setPen(HostColour(fore_color_));
+  painter.setPen(Qt::black);
   painter.drawStaticText(at, laid_out.text);
   surface().Drawn(QRect(at, QSize(laid_out.width + 2, face.LineHeight())));
 }

@@ -32,37 +32,31 @@ class PictureBox : public Control, public Container {
   /// The control takes the size of its picture when one is assigned.
   void AutoSize(bool auto_size) { auto_size_ = auto_size; }
   /// Whether what is drawn stays when the form is hidden; so it does unless this is turned off.
-  void Persistent(bool persistent) { persistent_ = persistent; }
+  void Persistent(bool persistent);
   /// A one-pixel frame that lies around the drawing pixels, outside the control's place.
   void Framed();
 
   /// The mouse wheel over the picture moves this bar.
   void WheelMoves(ScrollBar& bar);
 
-  [[nodiscard]] Scale ScaleMode() const { return scale_; }
   void ScaleMode(Scale scale) { scale_ = scale; }
 
-  [[nodiscard]] Colour BackColor() const { return back_color_; }
   /// Clears the surface.
   void BackColor(Colour colour);
-  [[nodiscard]] Colour ForeColor() const { return fore_color_; }
-  void ForeColor(Colour colour) { fore_color_ = colour; }
 
-  [[nodiscard]] toolkit::DrawMode DrawMode() const { return draw_mode_; }
-  /// Line, Box and FilledBox obey it.
+  /// Line and FilledBox obey it.
   void DrawMode(toolkit::DrawMode mode) { draw_mode_ = mode; }
 
-  // Both end points, or both corners, are included.
-  void Line(int x1, int y1, int x2, int y2, Colour colour);
-  void Box(int x1, int y1, int x2, int y2, Colour colour);
+  /// Both corners are included.
   void FilledBox(int x1, int y1, int x2, int y2, Colour colour);
-  /// An arc of the foreground colour, counter-clockwise from `start` to `end`, both in radians from
+  /// A line of one pixel, level or upright, with both its ends. On a dense display it covers whole
+  /// units as a box does, where a pen is off by half of one.
+  void Line(int x1, int y1, int x2, int y2, Colour colour) { FilledBox(x1, y1, x2, y2, colour); }
+  /// A black arc, counter-clockwise from `start` to `end`, both in radians from
   /// the positive x axis with up as positive.
   void Circle(int x, int y, int radius, float start, float end);
 
-  [[nodiscard]] int CurrentX() const { return current_x_; }
   void CurrentX(int x) { current_x_ = x; }
-  [[nodiscard]] int CurrentY() const { return current_y_; }
   void CurrentY(int y) { current_y_ = y; }
   /// Draws text with its top left corner at the current position, transparent behind the letters.
   void Print(const std::string& text);
@@ -75,24 +69,21 @@ class PictureBox : public Control, public Container {
   Event<> Click;
 
   [[nodiscard]] Scale InnerScale() const override { return scale_; }
-  QWidget* InnerWidget() override { return widget(); }
-  Form& OwningForm() override { return parent().OwningForm(); }
+  [[nodiscard]] QWidget* InnerWidget() const override { return widget(); }
+  Window& OwningWindow() override { return parent().OwningWindow(); }
 
  protected:
   void PlaceChanged() override;
 
  private:
-  friend class Surface;
   [[nodiscard]] Surface& surface() const;
   [[nodiscard]] int Pixels(int units) const;
 
   toolkit::Picture picture_;
   Scale scale_ = Scale::pixels;
   Colour back_color_ = 0xFFFFFF;
-  Colour fore_color_ = 0;
   toolkit::DrawMode draw_mode_ = toolkit::DrawMode::copy;
   bool auto_size_ = false;
-  bool persistent_ = true;
   int current_x_ = 0;
   int current_y_ = 0;
 };

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "files/run_time_error.h"
+#include "shell/toolkit/controls/replace.h"
 
 namespace toolkit {
 
@@ -34,16 +35,12 @@ ScrollBar::ScrollBar(Container& parent, const ControlSheet& sheet, Orientation o
 
 void ScrollBar::Min(int min) {
   Require16Bits(min);
-  if (min == min_) return;
-  min_ = min;
-  ApplyRange();
+  if (Replace(min_, min)) ApplyRange();
 }
 
 void ScrollBar::Max(int max) {
   Require16Bits(max);
-  if (max == max_) return;
-  max_ = max;
-  ApplyRange();
+  if (Replace(max_, max)) ApplyRange();
 }
 
 int ScrollBar::Value() const { return static_cast<QScrollBar*>(widget())->value(); }

@@ -15,7 +15,6 @@ class ScrollBar : public Control {
 
   // Whole numbers of 16 bits; a value outside Min to Max is held to that range. A Max below Min
   // leaves Min as the only value.
-  [[nodiscard]] int Min() const { return min_; }
   void Min(int min);
   [[nodiscard]] int Max() const { return max_; }
   void Max(int max);

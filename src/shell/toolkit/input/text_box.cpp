@@ -7,27 +7,44 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
-#include "files/run_time_error.h"
+#include "shell/toolkit/controls/captions_p.h"
+#include "shell/toolkit/controls/replace.h"
 #include "shell/toolkit/desktop/browser_host.h"
 #include "shell/toolkit/drawing/face_p.h"
 #include "shell/toolkit/events/key_codes_p.h"
 
 namespace toolkit {
 
-/// The host's text field `Field`, with its keys and clicks going through the box's events first.
+/// What the host's fields of one line and of many do each in its own way.
+class TextField {
+ public:
+  TextField() = default;
+  TextField(const TextField&) = delete;
+  TextField& operator=(const TextField&) = delete;
+  virtual ~TextField() = default;
+
+  virtual void WhenTyped(std::function<void()> action) = 0;
+  [[nodiscard]] virtual QString Shown() const = 0;
+  /// Shows a text that is set by code, however long; 0 typed characters at most set no limit.
+  virtual void Show(const QString& text, int typed_at_most) = 0;
+  virtual void Lock() = 0;
+  virtual void Flat() = 0;
+  virtual void Align(Qt::Alignment alignment) = 0;
+};
+
+/// The host's field, with its keys and clicks going through the box's events first.
 template <typename Field>
-class TypedField : public Field {
+class TypedField : public Field, public TextField {
  public:
   explicit TypedField(TextBox& box) : box_(box) {
     this->setContextMenuPolicy(Qt::NoContextMenu);
     this->setAcceptDrops(false);
   }
-
-  void Flat() { flat_ = true; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -60,52 +77,85 @@ class TypedField : public Field {
     box_.DblClick.Raise();
   }
 
-  void paintEvent(QPaintEvent* event) override {
-    Field::paintEvent(event);
-    if (!flat_) return;
-    QPainter border(this);
-    border.drawRect(this->rect().adjusted(0, 0, -1, -1));
-  }
-
- private:
   TextBox& box_;
-  bool flat_ = false;
 };
 
 namespace {
 
-using SingleLine = TypedField<QLineEdit>;
-using ManyLines = TypedField<QPlainTextEdit>;
+class SingleLine : public TypedField<QLineEdit> {
+ public:
+  using TypedField::TypedField;
 
-QLineEdit* AsSingleLine(QWidget* widget) { return qobject_cast<QLineEdit*>(widget); }
-QPlainTextEdit* AsManyLines(QWidget* widget) { return qobject_cast<QPlainTextEdit*>(widget); }
+  void WhenTyped(std::function<void()> action) override {
+    connect(this, &QLineEdit::textEdited, this, std::move(action));
+  }
+
+  [[nodiscard]] QString Shown() const override { return text(); }
+
+  void Show(const QString& text, int typed_at_most) override {
+    constexpr int unlimited = 32767;
+    const int limit = typed_at_most > 0 ? typed_at_most : unlimited;
+    setMaxLength(std::max(limit, static_cast<int>(text.size())));
+    setText(text);
+  }
+
+  void Lock() override { setReadOnly(true); }
+
+  void Flat() override {
+    setFrame(false);
+    flat_ = true;
+  }
+
+  void Align(Qt::Alignment alignment) override { setAlignment(alignment | Qt::AlignVCenter); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLineEdit::paintEvent(event);
+    if (flat_) QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+
+ private:
+  bool flat_ = false;
+};
+
+class ManyLines : public TypedField<QPlainTextEdit> {
+ public:
+  explicit ManyLines(TextBox& box) : TypedField(box) {
+    setTabChangesFocus(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
+
+  void WhenTyped(std::function<void()> action) override {
+    connect(this, &QPlainTextEdit::textChanged, this, std::move(action));
+  }
+
+  [[nodiscard]] QString Shown() const override { return toPlainText(); }
+  void Show(const QString& text, int /*typed_at_most*/) override { setPlainText(text); }
+  void Lock() override {
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  }
+  void Flat() override { setFrameStyle(QFrame::Box | QFrame::Plain); }
+  void Align(Qt::Alignment /*alignment*/) override {}
+};
 
 std::unique_ptr<QWidget> MakeField(TextBox& box, Lines lines) {
   if (lines == Lines::single) return std::make_unique<SingleLine>(box);
-  auto field = std::make_unique<ManyLines>(box);
-  field->setTabChangesFocus(true);
-  field->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  field->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  return field;
+  return std::make_unique<ManyLines>(box);
 }
 
 }  // namespace
 
 TextBox::TextBox(Container& parent, const ControlSheet& sheet, Lines lines)
     : Control(parent, sheet, MakeField(*this, lines)) {
-  if (auto* field = AsSingleLine(widget()))
-    QObject::connect(field, &QLineEdit::textEdited, field, [this] { TakeTypedText(); });
-  else
-    QObject::connect(AsManyLines(widget()), &QPlainTextEdit::textChanged, widget(),
-                     [this] { TakeTypedText(); });
+  field().WhenTyped([this] { TakeTypedText(); });
   StopTabHere();
 }
 
+TextField& TextBox::field() const { return dynamic_cast<TextField&>(*widget()); }
+
 void TextBox::Text(const std::string& text) {
-  if (text != text_) {
-    text_ = text;
-    ShowText();
-  }
+  if (Replace(text_, text)) ShowText();
   Change.Raise();
 }
 
@@ -114,30 +164,11 @@ void TextBox::MaxLength(int characters) {
   ShowText();
 }
 
-void TextBox::Lock() {
-  if (auto* field = AsSingleLine(widget()))
-    field->setReadOnly(true);
-  else
-    AsManyLines(widget())->setTextInteractionFlags(Qt::TextSelectableByMouse |
-                                                   Qt::TextSelectableByKeyboard);
-}
+void TextBox::Lock() { field().Lock(); }
 
-void TextBox::Flat() {
-  if (auto* field = AsSingleLine(widget())) {
-    field->setFrame(false);
-    static_cast<SingleLine*>(field)->Flat();
-  } else {
-    AsManyLines(widget())->setFrameStyle(QFrame::Box | QFrame::Plain);
-  }
-}
+void TextBox::Flat() { field().Flat(); }
 
-void TextBox::Align(Alignment alignment) {
-  auto* field = AsSingleLine(widget());
-  if (field == nullptr) return;
-  field->setAlignment(alignment == Alignment::center  ? Qt::AlignCenter
-                      : alignment == Alignment::right ? Qt::AlignRight | Qt::AlignVCenter
-                                                      : Qt::AlignLeft | Qt::AlignVCenter);
-}
+void TextBox::Align(Alignment alignment) { field().Align(HostAlignment(alignment)); }
 
 void TextBox::LinkMode(int mode) {
   if (mode != 0) CurrentBrowserHost().Connect(link_topic_);
@@ -152,22 +183,12 @@ void TextBox::FontChanged() {
 
 void TextBox::ShowText() {
   const QScopedValueRollback showing(showing_, true);
-  const QString shown = FaceInUse().Shown(text_);
-  if (auto* field = AsSingleLine(widget())) {
-    constexpr int unlimited = 32767;
-    const int limit = max_length_ > 0 ? max_length_ : unlimited;
-    field->setMaxLength(std::max(limit, static_cast<int>(shown.size())));
-    field->setText(shown);
-  } else {
-    AsManyLines(widget())->setPlainText(shown);
-  }
+  field().Show(FaceInUse().Shown(text_), max_length_);
 }
 
 void TextBox::TakeTypedText() {
   if (showing_) return;
-  auto* field = AsSingleLine(widget());
-  const QString shown = field != nullptr ? field->text() : AsManyLines(widget())->toPlainText();
-  text_ = Encode(shown, FaceInUse().code());
+  text_ = Encode(field().Shown(), FaceInUse().code());
   Change.Raise();
 }
 

@@ -10,6 +10,8 @@ class QString;
 
 namespace toolkit {
 
+class TextField;
+
 enum class Lines { single, multiple };
 
 /// A text box. Its text changes only by its keys and by code: there is no context menu, no
@@ -43,9 +45,7 @@ class TextBox : public Control {
 
   // Link to another application: topic "SERVICE|topic", mode 2 for one that is asked. Setting the
   // mode raises error 282 if no application answers.
-  [[nodiscard]] const std::string& LinkTopic() const { return link_topic_; }
   void LinkTopic(const std::string& topic) { link_topic_ = topic; }
-  [[nodiscard]] const std::string& LinkItem() const { return link_item_; }
   void LinkItem(const std::string& item) { link_item_ = item; }
   void LinkMode(int mode);
   void LinkRequest();
@@ -59,6 +59,7 @@ class TextBox : public Control {
   /// Raises the events of a key; whether the box takes no further action on it.
   bool KeyTaken(const QKeyEvent& event);
   bool CharactersTaken(const QString& characters);
+  [[nodiscard]] TextField& field() const;
   void ShowText();
   void TakeTypedText();
 

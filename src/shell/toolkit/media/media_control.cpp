@@ -12,9 +12,9 @@
 
 #include "files/host_paths.h"
 #include "files/run_time_error.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/media/media_player_p.h"
 #include "shell/toolkit/media/window_handles_p.h"
-#include "shell/toolkit/windows/application.h"
 
 namespace toolkit {
 

@@ -19,23 +19,15 @@ class MediaControl : public Control {
   ~MediaControl() override;
 
   // Set before the command "Open".
-  [[nodiscard]] const std::string& DeviceType() const { return device_type_; }
   /// "WaveAudio", "Sequencer" or "AVIVideo".
   void DeviceType(const std::string& type) { device_type_ = type; }
-  [[nodiscard]] const std::string& FileName() const { return file_name_; }
   void FileName(const std::string& path) { file_name_ = path; }
-  [[nodiscard]] bool Notify() const { return notify_; }
-  void Notify(bool notify) { notify_ = notify; }
-  [[nodiscard]] bool Wait() const { return wait_; }
-  void Wait(bool wait) { wait_ = wait; }
-  [[nodiscard]] bool Shareable() const { return shareable_; }
-  void Shareable(bool shareable) { shareable_ = shareable; }
   /// The picture that carries the video, by its handle.
-  [[nodiscard]] int hWndDisplay() const { return display_; }
   void hWndDisplay(int handle) { display_ = handle; }
 
-  /// "Open" gets the device ready on the start of the file. It waits until then, for a few seconds
-  /// at most, and takes no input of the user meanwhile. Error 53 if there is no such file, 68 if
+  /// "Open" gets the device ready on the start of the file. It always waits until then, for a few
+  /// seconds at most, and takes no input of the user meanwhile; it shares the device with no other
+  /// control. Error 53 if there is no such file, 68 if
   /// the device cannot play it; ends the procedure that called it if the program ends meanwhile.
   /// "Play" starts playing and returns. Error 68 if nothing is open.
   /// "close" stops and lets go of the file; nothing need be open.
@@ -55,9 +47,6 @@ class MediaControl : public Control {
 
   std::string device_type_;
   std::string file_name_;
-  bool notify_ = false;
-  bool wait_ = false;
-  bool shareable_ = false;
   int display_ = 0;
   std::shared_ptr<MediaPlayer> player_;
 };

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/media/media_player_p.h"
-#include "shell/toolkit/windows/application.h"
 
 namespace toolkit {
 

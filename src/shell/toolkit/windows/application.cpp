@@ -5,15 +5,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
-#include <QThread>
 #include <csignal>
 
 #include "files/host_paths.h"
 #include "shell/toolkit/desktop/browser_host.h"
 #include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/media/window_handles_p.h"
 #include "shell/toolkit/windows/end_requests_p.h"
 #include "shell/toolkit/windows/form.h"
@@ -22,11 +21,7 @@ namespace toolkit {
 
 namespace {
 
-bool ended = false;
-int mouse_pointer = 0;
 std::string program_folder;
-
-constexpr int hourglass = 11;
 
 QPalette PeriodPalette() {
   const QColor face(0xC0, 0xC0, 0xC0);
@@ -94,7 +89,7 @@ Application::Application(int& argc, char** argv) {
   application_ = std::make_unique<GatedApplication>(argc, argv);
   QApplication::setApplicationName(QStringLiteral("kalvon"));
   QApplication::setPalette(PeriodPalette());
-  QApplication::setFont(Face::Of("MS Sans Serif", 8.25, false, false, 0).font());
+  QApplication::setFont(Face::Of("MS Sans Serif", 8.25, false, 0).font());
   QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -106,27 +101,11 @@ int Application::Run() {
   return QApplication::exec();
 }
 
-void End() {
-  ended = true;
-  // Without a loop to leave, the host would leave the next one at once.
-  if (QThread::currentThread()->loopLevel() > 0) QApplication::exit(0);
-  throw ProgramEnd{};
-}
-
-bool Ended() { return ended; }
-
-void Restart() { ended = false; }
-
-void DoEvents() {
-  QApplication::processEvents();
-  if (ended) throw ProgramEnd{};
-}
-
 void MsgBox(const std::string& text) {
   QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
                   QString::fromStdString(text), QMessageBox::Ok);
   box.exec();
-  if (ended) throw ProgramEnd{};
+  if (Ended()) throw ProgramEnd{};
 }
 
 void Shell(const std::string& command_line) { CurrentBrowserHost().Start(command_line); }
@@ -144,24 +123,5 @@ std::string App::Path() {
 }
 
 void App::Path(const std::string& path) { program_folder = path; }
-
-int Screen::Width() {
-  return QGuiApplication::primaryScreen()->geometry().width() * twips_per_pixel;
-}
-
-int Screen::Height() {
-  return QGuiApplication::primaryScreen()->geometry().height() * twips_per_pixel;
-}
-
-int Screen::MousePointer() { return mouse_pointer; }
-
-void Screen::MousePointer(int pointer) {
-  if (pointer == mouse_pointer) return;
-  mouse_pointer = pointer;
-  if (pointer == hourglass)
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  else
-    QGuiApplication::restoreOverrideCursor();
-}
 
 }  // namespace toolkit

@@ -23,22 +23,6 @@ class Application {
   std::unique_ptr<QApplication> application_;
 };
 
-/// Thrown by End. Only the layer catches it.
-struct ProgramEnd {};
-
-/// Ends the program at once: no further event is raised, and the call does not return.
-[[noreturn]] void End();
-
-/// Whether End has been called.
-bool Ended();
-
-/// Lets a program start anew in the same process.
-void Restart();
-
-/// Lets pending events of the program run, then returns. Ends the procedure that called it if one
-/// of them ended the program.
-void DoEvents();
-
 /// A plain message box with an OK button; returns when it is closed.
 void MsgBox(const std::string& text);
 
@@ -55,15 +39,6 @@ struct App {
   static std::string Path();
   /// Lets another folder stand for it.
   static void Path(const std::string& path);
-};
-
-struct Screen {
-  // Size in twips.
-  static int Width();
-  static int Height();
-  /// 0 default, 11 hourglass.
-  static int MousePointer();
-  static void MousePointer(int pointer);
 };
 
 }  // namespace toolkit

@@ -6,7 +6,6 @@
 #include <QResizeEvent>
 #include <QWidget>
 #include <QWindow>
-#include <algorithm>
 
 #include "shell/toolkit/drawing/text_code_p.h"
 
@@ -143,9 +142,7 @@ void Form::Show() {
 
 void Form::Hide() { widget_->hide(); }
 
-bool Form::Visible() const { return widget_->isVisible(); }
-
-QWidget* Form::InnerWidget() { return widget_.get(); }
+QWidget* Form::InnerWidget() const { return widget_.get(); }
 
 void Form::CloseStartForm() {
   bool keep_open = false;
@@ -155,22 +152,6 @@ void Form::CloseStartForm() {
 bool Form::TakesInput(const QWidget* window) {
   const auto* form_widget = dynamic_cast<const FormWidget*>(window);
   return form_widget == nullptr || form_widget->form().Enabled();
-}
-
-void Form::Register(const Control& control, QWidget* tab_stop) {
-  tab_stops_.push_back({&control, tab_stop});
-}
-
-void Form::Unregister(const Control& control) {
-  std::erase_if(tab_stops_, [&](const TabStop& stop) { return stop.control == &control; });
-}
-
-void Form::ChainTabStops() {
-  std::stable_sort(tab_stops_.begin(), tab_stops_.end(), [](const TabStop& a, const TabStop& b) {
-    return a.control->TabIndex() < b.control->TabIndex();
-  });
-  for (std::size_t i = 1; i < tab_stops_.size(); ++i)
-    QWidget::setTabOrder(tab_stops_[i - 1].widget, tab_stops_[i].widget);
 }
 
 }  // namespace toolkit

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
-#include "shell/toolkit/controls/control.h"
+#include "shell/toolkit/controls/container.h"
+#include "shell/toolkit/events/event.h"
 
 namespace toolkit {
 
@@ -29,7 +28,7 @@ struct FormSheet {
 
 /// A window. Outer sizes count a nominal window frame of the period, whatever the window manager
 /// draws, so that they are the same on every desktop.
-class Form : public Container {
+class Form : public Window {
  public:
   ~Form() override;
 
@@ -46,14 +45,9 @@ class Form : public Container {
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   void Caption(const std::string& caption);
 
-  /// A disabled form takes no mouse, key or close-box input and looks as before.
-  [[nodiscard]] bool Enabled() const { return enabled_; }
-  void Enabled(bool enabled) { enabled_ = enabled; }
-
   /// Shows the form, or brings it to the front. Returns at once.
   void Show();
   void Hide();
-  [[nodiscard]] bool Visible() const;
 
   /// The icon of the window, one of the pictures that are built in.
   void Icon(const std::string& picture_name);
@@ -63,12 +57,7 @@ class Form : public Container {
   Event<bool&> Unload;
 
   [[nodiscard]] Scale InnerScale() const override { return scale_; }
-  QWidget* InnerWidget() override;
-  Form& OwningForm() override { return *this; }
-
-  /// Called by each control at which the Tab key stops.
-  void Register(const Control& control, QWidget* tab_stop);
-  void Unregister(const Control& control);
+  [[nodiscard]] QWidget* InnerWidget() const override;
 
   /// Closes the start form as its close box does, also while it is disabled: the desktop ends the
   /// program.
@@ -82,21 +71,14 @@ class Form : public Container {
 
  private:
   friend class FormWidget;
-  struct TabStop {
-    const Control* control;
-    QWidget* widget;
-  };
-  void ChainTabStops();
   void TakeSize(int width, int height);
 
   std::unique_ptr<FormWidget> widget_;
-  std::vector<TabStop> tab_stops_;
   std::string caption_;
   Border border_;
   Scale scale_;
   int left_ = 0;
   int top_ = 0;
-  bool enabled_ = true;
 };
 
 /// A form that is loaded, hidden, at its first touch and lives until it is unloaded.
@@ -111,8 +93,6 @@ class FormHandle {
     return *form_;
   }
   Kind* operator->() { return &**this; }
-
-  [[nodiscard]] bool Loaded() const { return form_ != nullptr; }
 
   void Unload() { form_.reset(); }
 

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/controls/container.h"
+
+#include <QWidget>
+
+namespace toolkit {
+
+bool Window::Visible() const { return InnerWidget()->isVisible(); }
+
+void Window::ChainTabStops() const {
+  QWidget* before = nullptr;
+  for (const auto& [index, stop] : tab_stops_) {
+    if (before != nullptr) QWidget::setTabOrder(before, stop);
+    before = stop;
+  }
+}
+
+}  // namespace toolkit
