@@ -9,6 +9,7 @@
 #include "crossword/reading.h"
 #include "crossword/writing.h"
 #include "files/host_paths.h"
+#include "files/text_file.h"
 
 namespace kalvon::bench {
 
@@ -28,6 +29,17 @@ void ReadBytes(State& state, const std::vector<std::string>& host_paths) {
   }
 }
 
+/// Reads them line by line, as every text file is read, and keeps none.
+void ReadLines(State& state, std::vector<std::string> paths) {
+  for (std::string& path : paths) path = files::LogicPath(path);
+  for (auto _ : state) {
+    for (const std::string& path : paths) {
+      files::TextReader file(path);
+      while (!file.AtEnd()) ::benchmark::DoNotOptimize(file.Line());
+    }
+  }
+}
+
 void ReadValue(State& state, const std::string& host_path) {
   const std::string path = files::LogicPath(host_path);
   for (auto _ : state) ::benchmark::DoNotOptimize(ReadCrossword(path));
@@ -36,6 +48,11 @@ void ReadValue(State& state, const std::string& host_path) {
 void BytesOfLargest(State& state) {
   const ScratchFolder folder;
   ReadBytes(state, {folder.Write("merenje.qvm", CrosswordFile(largest))});
+}
+
+void LinesOfLargest(State& state) {
+  const ScratchFolder folder;
+  ReadLines(state, {folder.Write("merenje.qvm", CrosswordFile(largest))});
 }
 
 void ValueOfLargest(State& state) {
@@ -48,14 +65,21 @@ void BytesOfInstallments(State& state) {
   ReadBytes(state, WriteInstallments(folder, 999));
 }
 
+void LinesOfInstallments(State& state) {
+  const ScratchFolder folder;
+  ReadLines(state, WriteInstallments(folder, 999));
+}
+
 void ValueOfInstallments(State& state) {
   const ScratchFolder folder;
   ReadValue(state, WriteInstallments(folder, 999).at(499));
 }
 
 BENCHMARK(BytesOfLargest)->Unit(benchmark::kMillisecond);
+BENCHMARK(LinesOfLargest)->Unit(benchmark::kMillisecond);
 BENCHMARK(ValueOfLargest)->Unit(benchmark::kMillisecond);
 BENCHMARK(BytesOfInstallments)->Unit(benchmark::kMillisecond);
+BENCHMARK(LinesOfInstallments)->Unit(benchmark::kMillisecond);
 BENCHMARK(ValueOfInstallments)->Unit(benchmark::kMillisecond);
 
 }  // namespace

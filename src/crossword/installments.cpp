@@ -71,8 +71,4 @@ void CellWalk::Next() {
   ++installment_;
 }
 
-int CellWalk::x() const { return column_ + (beside_ ? (installment_ - 1) * width_ : 0); }
-
-int CellWalk::y() const { return row_ + (beside_ ? 0 : (installment_ - 1) * height_); }
-
 }  // namespace kalvon

@@ -45,8 +45,8 @@ class CellWalk {
   void Next();
 
   // The grid cell.
-  [[nodiscard]] int x() const;
-  [[nodiscard]] int y() const;
+  [[nodiscard]] int x() const { return column_ + (beside_ ? (installment_ - 1) * width_ : 0); }
+  [[nodiscard]] int y() const { return row_ + (beside_ ? 0 : (installment_ - 1) * height_); }
   /// The installment that owns it.
   [[nodiscard]] int installment() const { return installment_; }
 

@@ -60,13 +60,14 @@ void CountCell(Crossword& crossword, std::string_view cell) {
   if (Behind(across, '$').starts_with('1')) ++crossword.br_uspravnih;
 }
 
-void ReadCell(Crossword& crossword, files::TextReader& file, const CellWalk& place, bool counted) {
-  std::string& cell = crossword.ukr_polja.Mutable(place.x(), place.y(), 1);
+void ReadCell(Crossword& crossword, files::TextReader& file, GridCell place, bool counted) {
+  std::string& cell = crossword.ukr_polja.Mutable(place.x, place.y, 1);
   cell = file.Line();
   if (counted) CountCell(crossword, cell);
-  std::string attributes = file.Line();
-  std::ranges::replace(attributes, ';', ',');
-  crossword.ukr_polja.Mutable(place.x(), place.y(), 2) = std::move(attributes);
+  std::string& attributes = crossword.ukr_polja.Mutable(place.x, place.y, 2);
+  attributes = file.Line();
+  for (std::size_t at = 0; (at = attributes.find(';', at)) != std::string::npos;)
+    attributes[at] = ',';
 }
 
 /// Reads the cells up to the end of the file and returns how many of them are the installment's
@@ -80,7 +81,7 @@ int ReadCells(Crossword& crossword, files::TextReader& file, int installment,
     walk.Next();
     const bool own = walk.installment() == installment;
     if (!own && crossword.nast_smer != join::side_by_side) break;
-    ReadCell(crossword, file, walk, own);
+    ReadCell(crossword, file, {walk.x(), walk.y()}, own);
     if (own) ++own_cells;
   }
   return own_cells;
@@ -154,7 +155,7 @@ void ReadInstallments(Crossword& crossword, const Progress& progress) {
 Crossword ReadCrossword(const std::string& path, const Progress& progress) {
   const std::string on_disk = files::PathOnDisk(path);
   std::vector<std::string> folder =
-      files::ReadFolder(on_disk.substr(0, on_disk.rfind('\\') + 1)).files;
+      files::ReadFolder(files::HostPath(on_disk.substr(0, on_disk.rfind('\\') + 1))).files;
   std::erase_if(folder,
                 [](const std::string& file) { return !files::LowerCase(file).ends_with(".qvm"); });
   Crossword crossword = OpenCrossword(on_disk, folder);

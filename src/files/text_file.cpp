@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 
 #include "files/descriptor.h"
@@ -27,15 +28,14 @@ bool TextReader::Fill() {
   if (exhausted_) return false;
   buffer_.erase(0, position_);
   position_ = 0;
-  const std::size_t kept = buffer_.size();
-  buffer_.resize(kept + block_size);
+  std::array<char, block_size> block;
   ssize_t count = 0;
   do {
-    count = read(descriptor_, &buffer_[kept], block_size);
+    count = read(descriptor_, block.data(), block.size());
   } while (count < 0 && errno == EINTR);
   unreadable_ = count < 0;
   exhausted_ = count <= 0;
-  buffer_.resize(kept + (exhausted_ ? 0 : static_cast<std::size_t>(count)));
+  if (!exhausted_) buffer_.append(block.data(), static_cast<std::size_t>(count));
   return !exhausted_;
 }
 
