@@ -24,13 +24,13 @@ constexpr int text_margin = 20;
 int IconOf(Medium medium) {
   switch (medium) {
     case Medium::picture:
-      return 0;
+      return media_picture::picture_icon;
     case Medium::text:
-      return 1;
+      return media_picture::text_icon;
     case Medium::video:
-      return 3;
+      return media_picture::video_icon;
     default:
-      return 2;
+      return media_picture::sound_icon;
   }
 }
 

@@ -8,8 +8,8 @@ namespace kalvon {
 
 Writing ChosenWriting() {
   return {.english = glavni.jezik == 1,
-          .latin = frm_opcije->opt_opcije(1).Value(),
-          .code_page = frm_opcije->opt_opcije1(1).Value()};
+          .latin = frm_opcije->opt_opcije(script::latin).Value(),
+          .code_page = frm_opcije->opt_opcije1(layout::code_page).Value()};
 }
 
 }  // namespace kalvon

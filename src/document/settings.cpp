@@ -36,6 +36,9 @@ void WriteLines(const Lines& lines) {
   file.Commit();
 }
 
+void ChooseScript(int index) { frm_opcije->opt_opcije(index).Value(true); }
+void ChooseLayout(int index) { frm_opcije->opt_opcije1(index).Value(true); }
+
 /// The text behind the name of a setting.
 std::string ValueOf(const std::string& line) { return std::string(Behind(line, ':')); }
 
@@ -45,20 +48,20 @@ void ucitaj_ini() {
   const Lines lines = ReadLines();
   files::pass_over([&] { frm_ucit_snimi->Dir1.Path(ValueOf(lines[1])); });
   if (glavni.jezik == 0) {
-    const int script = ValueOf(lines[2]) == "Cirilica" ? 0 : 1;
-    files::pass_over([&] { frm_opcije->opt_opcije(script).Value(true); });
-    const int layout = ValueOf(lines[3]) == "Unikod" ? 1 : 0;
-    files::pass_over([&] { frm_opcije->opt_opcije1(layout).Value(true); });
+    const bool cyrillic = ValueOf(lines[2]) == "Cirilica";
+    files::pass_over([&] { ChooseScript(cyrillic ? script::cyrillic : script::latin); });
+    const bool code_page = ValueOf(lines[3]) == "Unikod";
+    files::pass_over([&] { ChooseLayout(code_page ? layout::code_page : layout::yu_ascii); });
     return;
   }
-  files::pass_over([&] { frm_opcije->opt_opcije1(0).Value(true); });
-  files::pass_over([&] { frm_opcije->opt_opcije(1).Value(true); });
+  files::pass_over([] { ChooseLayout(layout::yu_ascii); });
+  files::pass_over([] { ChooseScript(script::latin); });
   files::pass_over([] { postavi_charset(); });
 }
 
 void snimi_ini() {
-  const bool cyrillic = frm_opcije->opt_opcije(0).Value();
-  const bool yu_ascii = frm_opcije->opt_opcije1(0).Value();
+  const bool cyrillic = frm_opcije->opt_opcije(script::cyrillic).Value();
+  const bool yu_ascii = frm_opcije->opt_opcije1(layout::yu_ascii).Value();
   files::pass_over([&] {
     WriteLines({"Vostrand Kalvon Multimedia", "Staza:" + frm_ucit_snimi->Dir1.Path(),
                 cyrillic ? "Pismo:Cirilica" : "Pismo:Latinica",

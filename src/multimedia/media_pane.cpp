@@ -36,8 +36,8 @@ const char* DeviceOf(Medium medium) {
   }
 }
 
-toolkit::PictureBox& Pane() { return frm_glavni->pic_media(4); }
-toolkit::PictureBox& Display() { return frm_glavni->pic_media(5); }
+toolkit::PictureBox& Pane() { return frm_glavni->pic_media(media_picture::pane); }
+toolkit::PictureBox& Display() { return frm_glavni->pic_media(media_picture::display); }
 
 void HideContent() {
   Display().Visible(false);

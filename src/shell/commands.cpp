@@ -31,7 +31,8 @@ void EraseWord() {
 }
 
 void ShowOptions() {
-  if (frm_glavni->pic_media(4).Visible() && !glavni.media_fajl.empty()) zatvori_media();
+  if (frm_glavni->pic_media(media_picture::pane).Visible() && !glavni.media_fajl.empty())
+    zatvori_media();
   prikazi_opcije();
 }
 
@@ -47,19 +48,19 @@ void Help() {
 
 void komanda_glavni(int index) {
   switch (index) {
-    case 0:
+    case command::load:
       return otvori_dijalog(0);
-    case 1:
+    case command::save:
       return snimi_ukrstenicu();
-    case 2:
+    case command::end:
       return kraj();
-    case 3:
+    case command::solve:
       return SolveWord();
-    case 4:
+    case command::erase:
       return EraseWord();
-    case 5:
+    case command::options:
       return ShowOptions();
-    case 6:
+    case command::help:
       return Help();
     default:
       return;

@@ -108,14 +108,14 @@ void EnableControls() {
     form.txt_rec(box).Text("");
     form.lbl_rec(box).Visible(false);
   }
-  for (const int command : {1, 3, 4, 5}) form.cmd_glavni(command).Enabled(true);
+  for (const int index : command::on_crossword) form.cmd_glavni(index).Enabled(true);
   glavni.pre_ucitavanja = 0;
 }
 
 void ShowInFont() {
   if (glavni.jezik == 1) {
-    frm_opcije->opt_opcije1(0).Value(true);
-    frm_opcije->opt_opcije(1).Value(true);
+    frm_opcije->opt_opcije1(layout::yu_ascii).Value(true);
+    frm_opcije->opt_opcije(script::latin).Value(true);
     postavi_charset();
     // A list that has no clue behind the first one shows its last, where its bar stands.
     skrol_pitanja(0);

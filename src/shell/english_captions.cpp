@@ -30,8 +30,10 @@ constexpr Caption option_labels[] = {{0, "Erase all words"},
                                      {9, "No. of active fields:"},
                                      {10, "Total no. of fields:"}};
 
-constexpr Caption commands[] = {{0, "&Load"},  {1, "&Save"},    {2, "E&xit"}, {3, "S&olve"},
-                                {4, "&Erase"}, {5, "&Options"}, {6, "&Help"}};
+constexpr Caption commands[] = {{command::load, "&Load"},   {command::save, "&Save"},
+                                {command::end, "E&xit"},    {command::solve, "S&olve"},
+                                {command::erase, "&Erase"}, {command::options, "&Options"},
+                                {command::help, "&Help"}};
 
 constexpr Caption headings[] = {{0, "Across"}, {1, "Down"}};
 
@@ -49,8 +51,8 @@ void WriteOptions(FrmOpcije& form) {
     label.FontSize(option_points);
     label.Caption(caption.text);
   }
-  form.cmd_opcije(0).FontName(glavni.font_ime);
-  form.cmd_opcije(0).Caption("OK");
+  form.cmd_opcije(option_command::go_on).FontName(glavni.font_ime);
+  form.cmd_opcije(option_command::go_on).Caption("OK");
 }
 
 void WriteMainForm(FrmGlavni& form) {

@@ -32,7 +32,8 @@ void ClickMediaPane() {
 }
 
 void BindMediaPane(FrmGlavni& form) {
-  for (const int index : {4, 5}) form.pic_media(index).Click = ClickMediaPane;
+  for (const int index : {media_picture::pane, media_picture::display})
+    form.pic_media(index).Click = ClickMediaPane;
   form.pic_media.ForEach([](toolkit::PictureBox& picture) {
     picture.GotFocus = [] {
       // Once the window has lost the focus again there is no handle, and the old one stays.
@@ -51,7 +52,7 @@ void BindMediaPane(FrmGlavni& form) {
 
 void BindMainForm(FrmGlavni& form) {
   form.Resize = [] { HoldSize(); };
-  form.Unload = [](bool&) { komanda_glavni(2); };
+  form.Unload = [](bool&) { komanda_glavni(command::end); };
   form.cmd_glavni.ForEach([](toolkit::Button& button) {
     button.Click = [index = button.Index()] { komanda_glavni(index); };
   });

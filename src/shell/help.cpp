@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/help.h"
 
-#include <initializer_list>
-
 #include "document/crossword_state.h"
 #include "files/folder_entries.h"
 #include "shell/browser_link.h"
@@ -13,8 +11,8 @@ namespace kalvon {
 
 namespace {
 
-void EnableCommands(std::initializer_list<int> commands, bool enabled) {
-  for (const int index : commands) frm_glavni->cmd_glavni(index).Enabled(enabled);
+void EnableCommands(bool enabled) {
+  for (const int index : command::on_crossword) frm_glavni->cmd_glavni(index).Enabled(enabled);
 }
 
 }  // namespace
@@ -29,15 +27,16 @@ void otvori_pomoc() {
   form.txt_rec1.Left(form.pic_ukr.Left());
   form.txt_rec1.Top(form.pic_ukr.Top());
   form.txt_rec1.Visible(true);
-  EnableCommands({0, 1, 3, 4, 5}, false);
+  EnableCommands(false);
+  form.cmd_glavni(command::load).Enabled(false);
   glavni.pomoc_otvorena = 1;
   form.txt_rec1.SetFocus();
 }
 
 void zatvori_pomoc() {
   frm_glavni->txt_rec1.Visible(false);
-  if (glavni.pre_ucitavanja == 0) EnableCommands({1, 3, 4, 5}, true);
-  EnableCommands({0}, true);
+  if (glavni.pre_ucitavanja == 0) EnableCommands(true);
+  frm_glavni->cmd_glavni(command::load).Enabled(true);
   glavni.pomoc_otvorena = 0;
 }
 

@@ -15,22 +15,22 @@ namespace {
 
 /// Keeps a caption up to its colon and puts a text behind it.
 void PutBehindColon(int label, const std::string& text) {
-  auto& statistics = frm_opcije->Label1(label);
-  const std::string& caption = statistics.Caption();
-  statistics.Caption(caption.substr(0, caption.find(':') + 1) + text);
+  auto& figure = frm_opcije->Label1(label);
+  const std::string& caption = figure.Caption();
+  figure.Caption(caption.substr(0, caption.find(':') + 1) + text);
 }
 
 void ShowStatistics() {
   const int cells = glavni.ukr_visina * glavni.ukr_sirina;
   const auto number = [](int value) { return " " + std::to_string(value); };
-  PutBehindColon(
-      4, " X=" + std::to_string(glavni.ukr_sirina) + " Y=" + std::to_string(glavni.ukr_visina));
-  PutBehindColon(10, number(cells));
-  PutBehindColon(8, number(glavni.br_crnih));
-  PutBehindColon(9, number(cells - glavni.br_crnih));
-  PutBehindColon(5, number(glavni.br_uspravnih + glavni.br_vodoravnih));
-  PutBehindColon(6, number(glavni.br_vodoravnih));
-  PutBehindColon(7, number(glavni.br_uspravnih));
+  PutBehindColon(statistics::dimensions, " X=" + std::to_string(glavni.ukr_sirina) +
+                                             " Y=" + std::to_string(glavni.ukr_visina));
+  PutBehindColon(statistics::cells, number(cells));
+  PutBehindColon(statistics::black_cells, number(glavni.br_crnih));
+  PutBehindColon(statistics::clean_cells, number(cells - glavni.br_crnih));
+  PutBehindColon(statistics::words, number(glavni.br_uspravnih + glavni.br_vodoravnih));
+  PutBehindColon(statistics::words_across, number(glavni.br_vodoravnih));
+  PutBehindColon(statistics::words_down, number(glavni.br_uspravnih));
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ void LayOutOptions() {
   auto& settings = form.frm_opcije(2);
   auto& puzzle = form.frm_opcije(0);
   auto& statistics = form.frm_opcije(1);
-  auto& go_on = form.cmd_opcije(0);
+  auto& go_on = form.cmd_opcije(option_command::go_on);
   // The English interface has neither a script nor a keyboard to choose.
   const bool with_settings = glavni.jezik == 0;
   const int above = with_settings ? settings.Height() : 0;
@@ -71,17 +71,17 @@ void sakrij_opcije() {
 
 void komanda_opcije(int index) {
   switch (index) {
-    case 0:
+    case option_command::go_on:
       primeni_font();
       return sakrij_opcije();
-    case 2:
+    case option_command::erase_all:
       return operacija_celine(PuzzleOperation::erase_all);
-    case 3:
+    case option_command::solve_all:
       primeni_font();
       return operacija_celine(PuzzleOperation::solve_all);
-    case 4:
+    case option_command::count_wrong:
       return operacija_celine(PuzzleOperation::count_wrong);
-    case 5:
+    case option_command::erase_wrong:
       return operacija_celine(PuzzleOperation::erase_wrong);
     default:
       return;

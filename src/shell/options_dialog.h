@@ -12,8 +12,7 @@ void prikazi_opcije();
 /// Closes the options form.
 void sakrij_opcije();
 
-/// A button of the options form: 0 go on, 2 erase all, 3 solve all, 4 count wrong letters, 5 erase
-/// wrong letters. Any other index does nothing.
+/// A button of the options form, by its index. Any other index does nothing.
 void komanda_opcije(int index);
 
 }  // namespace kalvon

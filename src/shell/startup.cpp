@@ -56,13 +56,13 @@ void DisableWhatNeedsACrossword() {
   form.scr_tekst.ForEach([](auto& bar) { bar.Enabled(false); });
   form.pic_tekst.ForEach([](auto& list) { list.Enabled(false); });
   form.txt_rec.ForEach([](auto& box) { box.Enabled(false); });
-  for (const int index : {1, 3, 4, 5}) form.cmd_glavni(index).Enabled(false);
+  for (const int index : command::on_crossword) form.cmd_glavni(index).Enabled(false);
 }
 
 void ChooseFont() {
   const bool english = glavni.jezik == 1;
   glavni.font_ime = english ? "MS Sans Serif" : "Kalvon";
-  if (english) frm_opcije->opt_opcije(0).Value(true);
+  if (english) frm_opcije->opt_opcije(script::cyrillic).Value(true);
   auto& form = *frm_glavni;
   form.txt_media.ForEach([](auto& box) { box.FontName(glavni.font_ime); });
   form.txt_rec.ForEach([](auto& box) { box.FontName(glavni.font_ime); });

@@ -37,8 +37,9 @@ FrmGlavni::FrmGlavni()
       scr_hor(*this, {"scr_hor", {199, 462, 421, 17}, 1}, Orientation::horizontal),
       txt_rec1(*this, {"txt_rec1", {580, 420, 439, 437}, 59}, Lines::multiple),
       // The pane lies over the clue lists, so it is made before what stands in it.
-      mm_media((pic_media.Add(*this, {"pic_media", {4, 268, 177, 210}, 22, "", 4})),
-               {"mm_media", {8, 180, 92, 23}, 26}),
+      mm_media(
+          (pic_media.Add(*this, {"pic_media", {4, 268, 177, 210}, 22, "", media_picture::pane})),
+          {"mm_media", {8, 180, 92, 23}, 26}),
       pic_sirina(*this, {"pic_sirina", {-16, 33, 21, 15}, 3}),
       lbl_sirina(*this, {"lbl_sirina", {-25, 16, 32, 13}, 2, "Label1"}),
       Label2(*this, {"Label2", {612, 28, 24, 14}, 60, "Re~"}) {
@@ -49,13 +50,13 @@ FrmGlavni::FrmGlavni()
   pic_brojevi.Add(*this, {"pic_brojevi", {183, 46, 15, 419}, 11, "", 0});
   pic_brojevi.ForEach([](toolkit::PictureBox& ruler) { ruler.BackColor(gray); });
 
-  cmd_glavni.Add(*this, {"cmd_glavni", {6, 6, 47, 23}, 13, "&U~itaj", 0});
-  cmd_glavni.Add(*this, {"cmd_glavni", {52, 6, 45, 23}, 14, "&Snimi", 1});
-  cmd_glavni.Add(*this, {"cmd_glavni", {96, 6, 45, 23}, 16, "&Re{i", 3});
-  cmd_glavni.Add(*this, {"cmd_glavni", {139, 6, 45, 23}, 17, "&Bri{i", 4});
-  cmd_glavni.Add(*this, {"cmd_glavni", {184, 6, 56, 23}, 27, "&Opcije", 5});
-  cmd_glavni.Add(*this, {"cmd_glavni", {238, 6, 52, 23}, 29, "&Pomo}", 6});
-  cmd_glavni.Add(*this, {"cmd_glavni", {289, 6, 45, 23}, 15, "&Kraj", 2});
+  cmd_glavni.Add(*this, {"cmd_glavni", {6, 6, 47, 23}, 13, "&U~itaj", command::load});
+  cmd_glavni.Add(*this, {"cmd_glavni", {52, 6, 45, 23}, 14, "&Snimi", command::save});
+  cmd_glavni.Add(*this, {"cmd_glavni", {96, 6, 45, 23}, 16, "&Re{i", command::solve});
+  cmd_glavni.Add(*this, {"cmd_glavni", {139, 6, 45, 23}, 17, "&Bri{i", command::erase});
+  cmd_glavni.Add(*this, {"cmd_glavni", {184, 6, 56, 23}, 27, "&Opcije", command::options});
+  cmd_glavni.Add(*this, {"cmd_glavni", {238, 6, 52, 23}, 29, "&Pomo}", command::help});
+  cmd_glavni.Add(*this, {"cmd_glavni", {289, 6, 45, 23}, 15, "&Kraj", command::end});
   cmd_glavni.ForEach([](toolkit::Button& button) {
     button.FontName("Kalvon");
     button.FontSize(9.75);
@@ -117,7 +118,7 @@ FrmGlavni::FrmGlavni()
     icon.Visible(false);
   }
 
-  auto& pane = pic_media(4);
+  auto& pane = pic_media(media_picture::pane);
   txt_media.Add(pane, {"txt_media", {7, 5, 162, 40}, 23, "", 0}, Lines::multiple);
   auto& body = txt_media.Add(pane, {"txt_media", {157, 50, 162, 154}, 24, "", 1}, Lines::multiple);
   txt_media.ForEach([](toolkit::TextBox& box) {
@@ -126,7 +127,8 @@ FrmGlavni::FrmGlavni()
   });
   body.FontSize(12);
   body.Visible(false);
-  auto& screen = pic_media.Add(pane, {"pic_media", {152, 57, 160, 120}, 25, "", 5});
+  auto& screen =
+      pic_media.Add(pane, {"pic_media", {152, 57, 160, 120}, 25, "", media_picture::display});
   screen.BackColor(0);
   screen.AutoSize(true);
   screen.Visible(false);

@@ -12,6 +12,29 @@
 
 namespace kalvon {
 
+/// Indexes of `cmd_glavni`.
+namespace command {
+inline constexpr int load = 0;
+inline constexpr int save = 1;
+inline constexpr int end = 2;
+inline constexpr int solve = 3;
+inline constexpr int erase = 4;
+inline constexpr int options = 5;
+inline constexpr int help = 6;
+/// Those that need a crossword.
+inline constexpr int on_crossword[] = {save, solve, erase, options};
+}  // namespace command
+
+/// Indexes of `pic_media`: the icons of the kinds of media, the pane, and the display in it.
+namespace media_picture {
+inline constexpr int picture_icon = 0;
+inline constexpr int text_icon = 1;
+inline constexpr int sound_icon = 2;
+inline constexpr int video_icon = 3;
+inline constexpr int pane = 4;
+inline constexpr int display = 5;
+}  // namespace media_picture
+
 /// The main form: commands, letter boxes, clue lists, grid, and the multimedia pane.
 class FrmGlavni : public toolkit::Form {
  public:

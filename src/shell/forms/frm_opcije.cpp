@@ -88,8 +88,8 @@ FrmOpcije::FrmOpcije()
   opt_opcije.ForEach([](auto& option) { SetFont(option, "Kalvon", 12); });
   SetFont(opt_opcije1(0), "Kalvon", 11.25);
   SetFont(opt_opcije1(1), "Kalvon", 12);
-  opt_opcije(0).Value(true);
-  opt_opcije1(1).Value(true);
+  opt_opcije(script::cyrillic).Value(true);
+  opt_opcije1(layout::code_page).Value(true);
 }
 
 }  // namespace kalvon
