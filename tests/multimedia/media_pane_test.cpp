@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPlainTextEdit>
 #include <QToolButton>
+#include <functional>
 
 #include "shell/toolkit/windows/application.h"
 #include "support/data_file.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/browser_link.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QPlainTextEdit>
 #include <functional>

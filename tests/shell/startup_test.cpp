@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QPushButton>
+#include <cmath>
 #include <csignal>
+#include <map>
 
 #include "shell/events.h"
 #include "shell/toolkit/windows/application.h"

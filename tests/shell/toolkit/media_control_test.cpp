@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QApplication>
 #include <QTest>
 #include <QToolButton>
+#include <filesystem>
 
 #include "files/run_time_error.h"
 #include "files/scratch_folder.h"
