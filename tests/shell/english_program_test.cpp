@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QPlainTextEdit>
+#include <algorithm>
 #include <functional>
 
 #include "shell/help_text.h"
@@ -26,7 +27,6 @@ class EnglishProgramTest : public ProgramTest {
 };
 
 TEST_F(EnglishProgramTest, OptionsStandInTheirFramesAndBesideTheCount) {
-  CopySample("proba.qvm");
   Load("proba.qvm");
   ClickButton("cmd_glavni(5)");
   auto& form = *frm_opcije;
@@ -43,9 +43,8 @@ TEST_F(EnglishProgramTest, OptionsStandInTheirFramesAndBesideTheCount) {
 }
 
 TEST_F(EnglishProgramTest, ACrosswordOfAllLettersIsSolvedByKeysAndSaved) {
-  CopySample("equinox.qvm");
-  const std::size_t unsolved = ReadFile("equinox.qvm").size();
   Load("equinox.qvm");
+  const std::size_t unsolved = ReadFile("equinox.qvm").size();
   ClickPicture("pic_tekst(1)", 40, 7);
   QInputMethodEvent composed;
   composed.setCommitString(QStringLiteral("w"));
@@ -92,6 +91,15 @@ TEST_F(EnglishProgramTest, AListWithoutAClueBehindTheFirstShowsItsLast) {
   EXPECT_EQ(glavni.sel_broj, 1);
 }
 
+TEST_F(EnglishProgramTest, TheDialogDescribesInEnglishWithoutInstallments) {
+  Choose("zima1001.qvm");
+  EXPECT_EQ(frm_ucit_snimi->Caption(), "Load crossword");
+  EXPECT_EQ(frm_ucit_snimi->cmd_ucit(1).Caption(), "CANCEL");
+  const std::string& rows = frm_ucit_snimi->lbl_ucit.Caption();
+  EXPECT_TRUE(rows.starts_with("Name: "));
+  EXPECT_EQ(std::ranges::count(rows, '\r'), 2);
+}
+
 TEST_F(EnglishProgramTest, HelpLiesOverTheGridAndOpensAndClosesByItsButton) {
   for (const char* enabled : {"026", "0123456"}) {
     EXPECT_EQ(EnabledCommands(), enabled);
@@ -103,7 +111,6 @@ TEST_F(EnglishProgramTest, HelpLiesOverTheGridAndOpensAndClosesByItsButton) {
     ClickButton("cmd_glavni(6)");
     EXPECT_FALSE(HelpIsOpen());
     EXPECT_EQ(EnabledCommands(), enabled);
-    CopySample("proba.qvm");
     Load("proba.qvm");
   }
 }

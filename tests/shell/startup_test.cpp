@@ -24,7 +24,6 @@ TEST_F(StartupTest, TheFirstCrosswordEnablesWhatNeedsOne) {
   for (const char* control : {"cmd_glavni(0)", "cmd_glavni(2)", "cmd_glavni(6)"})
     EXPECT_TRUE(Widget(control)->isEnabled()) << control;
   EXPECT_NE(PixelOf("pic_ukr", 5, 5), 0xFFFFFFU) << "the title picture";
-  CopySample("proba.qvm");
   Load("proba.qvm");
   for (const char* control : need_one) EXPECT_TRUE(Widget(control)->isEnabled()) << control;
   EXPECT_EQ(PixelOf("pic_ukr", 5, 5), 0xFFFF7FU) << "the mark of the first word";
@@ -79,9 +78,8 @@ TEST_F(StartupTest, AFormHigherThanTheScreenGivesUpItsTitleBarAndKeepsItsSize) {
 }
 
 TEST_F(StartupTest, ClosingTheMainFormEndsTheProgramWithoutASave) {
-  CopySample("proba.qvm");
-  const std::string before = ReadFile("proba.qvm");
   Load("proba.qvm");
+  const std::string before = ReadFile("proba.qvm");
   ClickButton("cmd_glavni(3)");
   Widget("frm_glavni")->close();
   EXPECT_TRUE(toolkit::Ended());

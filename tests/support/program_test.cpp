@@ -49,6 +49,8 @@ void ProgramTest::CopySample(const std::string& name) const {
 }
 
 void ProgramTest::Choose(const std::string& name) {
+  const auto sample = std::filesystem::path(SAMPLES_FOLDER) / name;
+  if (exists(sample) && !exists(folder() / name)) CopySample(name);
   auto& files = frm_ucit_snimi->File1;
   // The dialog shows what it showed when its folder was last set.
   files.Path(frm_ucit_snimi->Dir1.Path());

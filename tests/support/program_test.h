@@ -40,7 +40,7 @@ class ProgramTest : public ::testing::Test {
   /// The web browser of the system, which answers at once if a test does not say otherwise.
   [[nodiscard]] BrowserScript& browser() { return browser_; }
 
-  /// Opens the dialog and clicks the file in its list.
+  /// Opens the dialog and clicks the file in its list. A sample is copied, unless it is there.
   void Choose(const std::string& name);
   /// Chooses the file and presses the button to go on.
   void Load(const std::string& name);

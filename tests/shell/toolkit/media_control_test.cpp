@@ -1,75 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/media/media_control.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <QApplication>
-#include <QTest>
 #include <QToolButton>
-#include <filesystem>
 
-#include "files/run_time_error.h"
-#include "files/scratch_folder.h"
-#include "shell/toolkit/drawing/surface_p.h"
-#include "shell/toolkit/input/picture_box.h"
 #include "shell/toolkit/windows/application.h"
-#include "shell/toolkit/windows/form.h"
 #include "support/data_file.h"
+#include "support/program_test.h"
 
-namespace toolkit {
+namespace kalvon::testing {
 namespace {
 
-using kalvon::testing::DataFile;
+using files::pass_over;
 
-class PlayerForm : public Form {
- public:
-  PlayerForm()
-      : Form({.name = "player",
-              .caption = "",
-              .scale = Scale::pixels,
-              .inner_width = 3000,
-              .inner_height = 3000}) {}
-
-  PictureBox screen{*this, {"screen", {0, 0, 160, 140}}};
-  MediaControl player{*this, {"player", {0, 140, 92, 23}}};
-};
-
-class MediaControlTest : public ::testing::Test {
+/// The program's own control, with its picture but without the procedures that use it.
+class MediaControlTest : public ProgramTest {
  protected:
-  MediaControlTest() {
-    form_.screen.BackColor(0);
-    form_.Show();
-    QApplication::processEvents();
-    form_.screen.SetFocus();
-    player_.hWndDisplay(GetFocus());
-    player_.Done = [this](int) { ++done_; };
+  void SetUp() override {
+    ProgramTest::SetUp();
+    auto& screen = frm_glavni->pic_media(5);
+    for (const int picture : {4, 5}) frm_glavni->pic_media(picture).Visible(true);
+    screen.Width(160);
+    screen.Height(140);
+    screen.BackColor(0);
+    screen.SetFocus();
+    player_ = &frm_glavni->mm_media;
+    player_->hWndDisplay(toolkit::GetFocus());
+    player_->FileName(toolkit::App::Path() + "\\medium");
+    player_->Done = [this](int) { ++done_; };
   }
 
   void Open(const std::string& device, const std::string& bytes) {
-    folder_.Put("medium", bytes);
-    player_.DeviceType(device);
-    player_.FileName(folder_.Logic("medium"));
-    player_.Command("Open");
+    WriteFile("medium", bytes);
+    player_->DeviceType(device);
+    player_->Command("Open");
   }
   [[nodiscard]] bool Ends(int times) {
     return QTest::qWaitFor([this, times] { return done_ == times; }, 10'000);
   }
-  [[nodiscard]] QToolButton* Button(const char* name) {
-    return form_.InnerWidget()->findChild<QToolButton*>(QString::fromLatin1(name));
+  [[nodiscard]] QToolButton* Button(const char* name) const {
+    return Widget("mm_media")->findChild<QToolButton*>(QString::fromLatin1(name));
   }
   void Press(const char* name) { QTest::mouseClick(Button(name), Qt::LeftButton); }
   [[nodiscard]] bool FileIsOpen() const {
     for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
       std::error_code gone;
-      if (std::filesystem::read_symlink(entry, gone) == folder_.Host("medium")) return true;
+      if (std::filesystem::read_symlink(entry, gone) == folder() / "medium") return true;
     }
     return false;
   }
 
-  ScratchFolder folder_;
-  PlayerForm form_;
-  MediaControl& player_ = form_.player;
+  toolkit::MediaControl* player_ = nullptr;
   int done_ = 0;
 };
 
@@ -81,22 +64,20 @@ TEST_F(MediaControlTest, PlaysEachKindToItsEndAndLetsGoOfTheFile) {
     done_ = 0;
     Open(device, DataFile(file));
     EXPECT_TRUE(FileIsOpen());
-    player_.Command("Play");
+    player_->Command("Play");
     EXPECT_TRUE(Ends(1));
-    player_.Command("close");
+    player_->Command("close");
     EXPECT_FALSE(FileIsOpen());
   }
-  // The video is upright, in its own proportions, and the last frame stays.
-  auto* screen = form_.InnerWidget()->findChild<QWidget*>(QStringLiteral("screen"));
-  const QImage shown = dynamic_cast<Surface&>(*screen).Shown();
-  const std::tuple<int, int, QColor> spots[] = {{30, 5, Qt::black},    {30, 15, Qt::red},
-                                                {130, 35, Qt::green},  {30, 105, Qt::blue},
-                                                {130, 125, Qt::white}, {130, 135, Qt::black}};
+  // The last frame stays: upright, and in its own proportions between black bars.
+  const std::tuple<int, int, unsigned> spots[] = {{30, 5, 0},           {30, 15, 0xFF0000},
+                                                  {130, 35, 0x00FF00},  {30, 105, 0x0000FF},
+                                                  {130, 125, 0xFFFFFF}, {130, 135, 0}};
   for (const auto& [x, y, colour] : spots)
-    EXPECT_EQ(shown.pixelColor(x, y).name(), colour.name()) << x << ", " << y;
+    EXPECT_EQ(PixelOf("pic_media(5)", x, y), colour) << x << ", " << y;
 }
 
-TEST_F(MediaControlTest, FailsQuicklyOnWhatTheDeviceDoesNotPlay) {
+TEST_F(MediaControlTest, RefusesWhatTheDeviceDoesNotPlay) {
   const std::string wave = DataFile("tone.wav");
   const std::pair<const char*, std::string> media[] = {
       {"WaveAudio", wave.substr(0, 12)},
@@ -105,26 +86,26 @@ TEST_F(MediaControlTest, FailsQuicklyOnWhatTheDeviceDoesNotPlay) {
       {"", wave}};
   for (const auto& [device, bytes] : media) {
     SCOPED_TRACE(bytes.substr(0, 20));
-    EXPECT_EQ(files::pass_over([&] { Open(device, bytes); }), files::error::device_unavailable);
-    EXPECT_EQ(files::pass_over([&] { player_.Command("Play"); }), files::error::device_unavailable);
+    EXPECT_EQ(pass_over([&] { Open(device, bytes); }), files::error::device_unavailable);
+    EXPECT_EQ(pass_over([&] { player_->Command("Play"); }), files::error::device_unavailable);
     EXPECT_FALSE(Button("play")->isEnabled());
     EXPECT_FALSE(FileIsOpen());
   }
-  std::filesystem::remove(folder_.Host("medium"));
-  ASSERT_EQ(mkfifo(folder_.Host("medium").c_str(), 0600), 0);
-  EXPECT_EQ(files::pass_over([&] { player_.Command("Open"); }), files::error::file_not_found);
+  std::filesystem::remove(folder() / "medium");
+  ASSERT_EQ(mkfifo((folder() / "medium").c_str(), 0600), 0);
+  EXPECT_EQ(pass_over([&] { player_->Command("Open"); }), files::error::file_not_found);
 }
 
 TEST_F(MediaControlTest, BarPausesGoesOnPlaysAgainAndStops) {
-  player_.Done = [this](int) {
+  player_->Done = [this](int) {
     ++done_;
-    player_.Command("Open");
+    player_->Command("Open");
   };
   Open("AVIVideo", DataFile("film.avi"));
   EXPECT_FALSE(Button("pause")->isEnabled());
   Press("play");
   Press("pause");
-  QTest::qWait(600);
+  QTest::qWait(400);
   EXPECT_EQ(done_, 0) << "paused";
   Press("play");
   EXPECT_TRUE(Ends(1));
@@ -137,4 +118,4 @@ TEST_F(MediaControlTest, BarPausesGoesOnPlaysAgainAndStops) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace kalvon::testing
