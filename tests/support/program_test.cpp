@@ -4,20 +4,14 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QDir>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <fstream>
-#include <sstream>
 
-#include "files/host_paths.h"
 #include "shell/events.h"
 #include "shell/language.h"
 #include "shell/toolkit/drawing/surface_p.h"
 #include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
-
 namespace {
 
 int language_under_test = 0;
@@ -26,28 +20,12 @@ int language_under_test = 0;
 
 int ProgramLanguage() { return language_under_test; }
 
-}  // namespace kalvon
-
-namespace kalvon::testing {
-
-ProgramTest::ProgramTest(int language) : language_(language) {
-  QTemporaryDir made(QDir::tempPath() + "/kalvon-test-XXXXXX");
-  made.setAutoRemove(false);
-  folder_ = made.path().toStdString();
-}
-
-ProgramTest::~ProgramTest() {
-  Stop();
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
-
-void ProgramTest::SetUp() { Start(); }
+namespace testing {
 
 void ProgramTest::Start() {
   language_under_test = language_;
   glavni = CrosswordState{};
-  toolkit::App::Path(files::LogicPath(folder_.string()));
+  toolkit::App::Path(scratch_.Logic());
   toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();
   frm_glavni->Show();
@@ -66,36 +44,25 @@ void ProgramTest::Restart() {
   Start();
 }
 
-void ProgramTest::WriteFile(const std::string& name, const std::string& bytes) const {
-  std::ofstream file(folder_ / name, std::ios::binary);
-  file << bytes;
-  ASSERT_TRUE(file.flush()) << name;
-}
-
-std::string ProgramTest::ReadFile(const std::string& name) const {
-  std::ostringstream bytes;
-  bytes << std::ifstream(folder_ / name, std::ios::binary).rdbuf();
-  return bytes.str();
-}
-
 void ProgramTest::CopySample(const std::string& name) const {
-  std::filesystem::copy_file(std::filesystem::path(SAMPLES_FOLDER) / name, folder_ / name,
+  std::filesystem::copy_file(std::filesystem::path(SAMPLES_FOLDER) / name, folder() / name,
                              std::filesystem::copy_options::overwrite_existing);
 }
 
 void ProgramTest::Choose(const std::string& name) {
+  const auto sample = std::filesystem::path(SAMPLES_FOLDER) / name;
+  if (exists(sample) && !exists(folder() / name)) CopySample(name);
+  auto& files = frm_ucit_snimi->File1;
   // The dialog shows what it showed when its folder was last set.
-  frm_ucit_snimi->File1.Path(frm_ucit_snimi->Dir1.Path());
+  files.Path(frm_ucit_snimi->Dir1.Path());
   ClickButton("cmd_glavni(0)");
+  int row = 0;
+  while (row < files.ListCount() && files.List(row) != name) ++row;
+  ASSERT_LT(row, files.ListCount()) << "The dialog does not list " << name;
   auto* list = Widget<QAbstractItemView>("File1");
-  for (int row = 0; row < frm_ucit_snimi->File1.ListCount(); ++row) {
-    if (frm_ucit_snimi->File1.List(row) != name) continue;
-    const QModelIndex index = list->model()->index(row, 0);
-    list->scrollTo(index);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
-    return;
-  }
-  FAIL() << "The dialog does not list " << name;
+  const QModelIndex index = list->model()->index(row, 0);
+  list->scrollTo(index);
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
 }
 
 void ProgramTest::Load(const std::string& name) {
@@ -152,4 +119,5 @@ QWidget* ProgramTest::Find(const std::string& control) {
   return nullptr;
 }
 
-}  // namespace kalvon::testing
+}  // namespace testing
+}  // namespace kalvon

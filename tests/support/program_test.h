@@ -9,6 +9,7 @@
 #include <string>
 
 #include "document/crossword_state.h"
+#include "files/scratch_folder.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
@@ -21,27 +22,28 @@ namespace kalvon::testing {
 class ProgramTest : public ::testing::Test {
  protected:
   /// `language` is that of the interface: 0 Serbian, 1 English.
-  explicit ProgramTest(int language = 0);
-  ~ProgramTest() override;
+  explicit ProgramTest(int language = 0) : language_(language) {}
+  ~ProgramTest() override { Stop(); }
 
-  void SetUp() override;
-
+  void SetUp() override { Start(); }
   /// Starts the program anew in the same folder, as after an end or a crash.
   void Restart();
 
   // Files of the program folder.
-  [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
-  void WriteFile(const std::string& name, const std::string& bytes) const;
-  [[nodiscard]] std::string ReadFile(const std::string& name) const;
+  [[nodiscard]] std::filesystem::path folder() const { return scratch_.HostPath(); }
+  void WriteFile(const std::string& name, const std::string& bytes) const {
+    scratch_.Put(name, bytes);
+  }
+  [[nodiscard]] std::string ReadFile(const std::string& name) const { return scratch_.Get(name); }
   void CopySample(const std::string& name) const;
 
   /// The web browser of the system, which answers at once if a test does not say otherwise.
   [[nodiscard]] BrowserScript& browser() { return browser_; }
 
-  /// Opens the dialog, clicks the file in its list and presses the button to go on.
-  void Load(const std::string& name);
-  /// Opens the dialog and clicks the file.
+  /// Opens the dialog and clicks the file in its list. A sample is copied, unless it is there.
   void Choose(const std::string& name);
+  /// Chooses the file and presses the button to go on.
+  void Load(const std::string& name);
 
   /// Clicks the cell of the grid, which must be in the view.
   void ClickCell(int x, int y);
@@ -54,9 +56,8 @@ class ProgramTest : public ::testing::Test {
 
   /// 0xRRGGBB of a pixel of a picture.
   [[nodiscard]] unsigned PixelOf(const std::string& control, int x, int y) const;
-  /// Name of the control that has the focus.
   [[nodiscard]] std::string FocusedControl() const;
-  /// The widget of a control of the form that holds it.
+  /// The widget of a control, or of a form.
   template <typename Kind = QWidget>
   [[nodiscard]] Kind* Widget(const std::string& control) const {
     return dynamic_cast<Kind*>(Find(control));
@@ -67,7 +68,7 @@ class ProgramTest : public ::testing::Test {
   void Start();
   static void Stop();
 
-  std::filesystem::path folder_;
+  ScratchFolder scratch_;
   BrowserScript browser_;
   int language_;
 };

@@ -16,11 +16,8 @@ struct BrowserScript {
       {R"(http\shell\open\command)", {1, "citac --novi"}},
       {R"(http\shell\open\ddeexec\Application)", {1, "Citac"}},
       {R"(http\shell\open\ddeexec\Topic)", {1, "WWW_OpenURL"}}};
-  /// The errors of the next calls, 0 for success; after the last one its error stays.
-  std::vector<int> connect_errors = {0};
-  std::vector<int> request_errors = {0};
-  int start_error = 0;
-
+  /// The errors of the next calls, 0 for success; the last one stays.
+  std::vector<int> errors = {0};
   /// The calls in their order: "connect TOPIC", "request ITEM", "start COMMAND".
   std::vector<std::string> calls = {};
 };
@@ -34,22 +31,15 @@ class ScriptedBrowser : public toolkit::BrowserHost {
     if (found == script_.registry.end()) return std::nullopt;
     return found->second;
   }
-  void Connect(const std::string& link_topic) override {
-    Answer("connect " + link_topic, script_.connect_errors);
-  }
-  void Request(const std::string& link_item) override {
-    Answer("request " + link_item, script_.request_errors);
-  }
-  void Start(const std::string& command_line) override {
-    script_.calls.push_back("start " + command_line);
-    if (script_.start_error != 0) throw files::RuntimeError(script_.start_error);
-  }
+  void Connect(const std::string& link_topic) override { Answer("connect " + link_topic); }
+  void Request(const std::string& link_item) override { Answer("request " + link_item); }
+  void Start(const std::string& command_line) override { Answer("start " + command_line); }
 
  private:
-  void Answer(const std::string& call, std::vector<int>& errors) {
+  void Answer(const std::string& call) {
     script_.calls.push_back(call);
-    const int error = errors.front();
-    if (errors.size() > 1) errors.erase(errors.begin());
+    const int error = script_.errors.front();
+    if (script_.errors.size() > 1) script_.errors.erase(script_.errors.begin());
     if (error != 0) throw files::RuntimeError(error);
   }
 
