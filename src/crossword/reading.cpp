@@ -151,12 +151,12 @@ void ReadInstallments(Crossword& crossword, const Progress& progress) {
 }
 
 Crossword ReadCrossword(const std::string& path, const Progress& progress) {
-  const std::string_view name = FileName(path);
+  const std::string on_disk = files::PathOnDisk(path);
   std::vector<std::string> folder =
-      files::ReadFolder(path.substr(0, path.size() - name.size())).files;
+      files::ReadFolder(on_disk.substr(0, on_disk.rfind('\\') + 1)).files;
   std::erase_if(folder,
                 [](const std::string& file) { return !files::LowerCase(file).ends_with(".qvm"); });
-  Crossword crossword = OpenCrossword(path, folder);
+  Crossword crossword = OpenCrossword(on_disk, folder);
   ReadInstallments(crossword, progress);
   NumberClues(crossword, progress);
   return crossword;
