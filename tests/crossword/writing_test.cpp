@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "crossword/writing.h"
+
+#include "crossword/crossword_folder.h"
+
+namespace kalvon::testing {
+namespace {
+
+class Writing : public CrosswordFolder {};
+
+TEST_F(Writing, ChangesNothingButTheTypedLetters) {
+  CrosswordText text{.rows = {"MIR", "A#A", "KIT"},
+                     .clues = {{"A1", "\xC6uti, \xE6uti"}},
+                     .borders = {{{2, 1}, "12"}},
+                     .media_table = "/kit.bmp/1078"};
+  const Files before = {{"Zima 1.QVM", Qvm(text)}};
+  Put(before);
+  Crossword crossword = Read("zima 1.qvm");
+  EXPECT_EQ(WriteCrossword(crossword), 0);
+  EXPECT_EQ(All(), before);
+
+  Enter(crossword, 1, 1, 'M');
+  Enter(crossword, 2, 3, 'X');
+  EXPECT_EQ(WriteCrossword(crossword), 0);
+  text.letters = {"M", "", " X"};
+  EXPECT_EQ(All(), (Files{{"Zima 1.QVM", Qvm(text)}}));
+  EXPECT_EQ(Read("Zima 1.QVM").ukr_polja, crossword.ukr_polja);
+}
+
+TEST_F(Writing, LeavesHeaderAndFieldsAsTheyStandAndAShortFileShort) {
+  std::vector<std::string> lines = {"a;b", "",  "x:ab  2  1",      ";:",   "\xFF\x01", " ", "1", "",
+                                    ":-",  "A", "?1;2;$;$$$a;b$;", "B$$$", ""};
+  Put({{"free.qvm", Lines(lines) + "behind\r\nthe last"}});
+  WriteCrossword(Read("free.qvm"));
+  lines[10] = "?1,2,$,$$$a,b$,";
+  EXPECT_EQ(folder.Get("free.qvm"), Lines(lines));
+
+  const std::string head = Lines(HeaderLines(3, 2)) + "D$0$1$0$00\r\n010$$$$A1$$\r\n";
+  Put({{"short.qvm", head + "A$0$0$0$00\r\n\r\n"}});
+  Crossword read = Read("short.qvm");
+  Enter(read, 2, 1, 'X');
+  WriteCrossword(read);
+  EXPECT_EQ(folder.Get("short.qvm"), head + "AX$0$0$0$00\r\n\r\n");
+}
+
+TEST_F(Writing, GivesEachInstallmentItsOwnCells) {
+  for (const auto& marks : {std::array{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 0, 0}}) {
+    SCOPED_TRACE(::testing::PrintToString(marks));
+    CrosswordText second{.rows = {"DAN", "O#A"}, .marks = marks, .number = 2};
+    CrosswordText fourth{.rows = {"REP", "E#A"}, .marks = marks, .number = 4};
+    Put({{"zima1002.qvm", Qvm(second)}, {"zima1004.qvm", Qvm(fourth)}});
+    Crossword read = Read("zima1002.qvm");
+    const bool beside = marks[0] == 1;
+    Enter(read, beside ? 4 : 1, beside ? 2 : 4, 'N');
+    Enter(read, beside ? 12 : 3, beside ? 1 : 7, 'P');
+    WriteCrossword(read);
+    second.letters = {"", "N"};
+    fourth.letters = {"  P"};
+    EXPECT_EQ(All(), (Files{{"zima1002.qvm", Qvm(second)}, {"zima1004.qvm", Qvm(fourth)}}));
+  }
+}
+
+TEST_F(Writing, ReachesTheFileThatWasRead) {
+  const std::string whole = Qvm({"MIR"});
+  for (const char* chosen : {"Proba.qvm", "PROBA.qvm", "proba.qvm"}) {
+    const Files before = {{"PROBA.qvm", whole}, {"Proba.qvm", whole}, {"proba.qvm", whole}};
+    Put(before);
+    Crossword read = Read(chosen);
+    Enter(read, 1, 1, 'X');
+    WriteCrossword(read);
+    for (const auto& [name, bytes] : before)
+      EXPECT_EQ(folder.Get(name) == bytes, name != chosen) << name;
+  }
+}
+
+// Whatever else happens to them, the files hold what they held before.
+TEST_F(Writing, NeverHarmsAFileThatItCannotRewrite) {
+  const std::string whole = Qvm({"MIR", "A#A", "KIT"});
+  const std::string solved = Qvm({.rows = {"MIR", "A#A", "KIT"}, .letters = {"M"}});
+  const std::pair<const char*, std::string> rows[] = {
+      {"header cut off", whole.substr(0, 40)},
+      {"empty", ""},
+      {"another size", Qvm({"DAN", "OKO"})},
+      {"another letter", Qvm({"MIR", "A#O", "KIT"})}};
+  for (const auto& [fault, bytes] : rows) {
+    SCOPED_TRACE(fault);
+    Put({{"zima1001.qvm", whole}, {"zima1002.qvm", whole}});
+    Crossword read = Read("zima1001.qvm");
+    Put({{"zima1001.qvm", bytes}});
+    Enter(read, 1, 1, 'M');
+    Enter(read, 1, 4, 'M');
+    WriteCrossword(read);
+    EXPECT_EQ(All(), (Files{{"zima1001.qvm", bytes}, {"zima1002.qvm", solved}}));
+  }
+  Put({{"zima1001.qvm", whole}});
+  Crossword read = Read("zima1001.qvm");
+  Enter(read, 1, 1, 'X');
+  std::filesystem::permissions(folder.Host("zima1001.qvm"), std::filesystem::perms::owner_read);
+  std::filesystem::remove(folder.Host("zima1002.qvm"));
+  EXPECT_EQ(WriteCrossword(read), files::error::permission_denied);
+  EXPECT_EQ(All(), (Files{{"zima1001.qvm", whole}}));
+}
+
+TEST_F(Writing, WritesNoCrosswordWithoutAClue) {
+  const std::string head = Lines(HeaderLines(1, 1));
+  const Files before = {{"bez.qvm", head + "Obican red\r\nJos jedan\r\nI treci\r\n"}};
+  Put(before);
+  Crossword read = Read("bez.qvm");
+  EXPECT_NE(WriteCrossword(read), 0);
+  EXPECT_EQ(All(), before);
+}
+
+}  // namespace
+}  // namespace kalvon::testing
