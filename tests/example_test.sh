@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Runs the example of the architecture on a copy of a crossword: it prints the clues and writes one
+# letter.
+#
+#     example_test.sh EXAMPLE CROSSWORD
+set -euo pipefail
+scratch=$(mktemp --directory)
+trap 'rm -r "$scratch"' EXIT
+cp "$2" "$scratch/kopija.qvm"
+"$1" "$scratch/kopija.qvm" >"$scratch/clues"
+clues=$(tail -n +10 "$2" | grep -oE '^0[01]{2}' | cut -c2- | tr -d '0\n' | wc -c)
+[[ $(wc -l <"$scratch/clues") == "$clues" ]]
+[[ $(stat -c %s "$scratch/kopija.qvm") == $(($(stat -c %s "$2") + 1)) ]]
