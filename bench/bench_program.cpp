@@ -59,23 +59,26 @@ ScratchFolder::~ScratchFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-std::string ScratchFolder::Write(const std::string& name, const std::string& bytes) const {
+std::string ScratchFolder::Path(const std::string& name) const { return (path_ / name).string(); }
+
+void ScratchFolder::Write(const std::string& name, const std::string& bytes) const {
   std::ofstream(path_ / name, std::ios::binary) << bytes;
-  return (path_ / name).string();
 }
 
 std::vector<std::string> WriteInstallments(const ScratchFolder& folder, int count) {
   const std::string installment = CrosswordFile({.columns = 4, .rows = 4, .side_by_side = true});
   std::vector<std::string> paths;
-  for (int i = 1; i <= count; ++i)
-    paths.push_back(
-        folder.Write("zima1" + std::to_string(1000 + i).substr(1) + ".qvm", installment));
+  for (int i = 1; i <= count; ++i) {
+    const std::string name = "zima1" + std::to_string(1000 + i).substr(1) + ".qvm";
+    folder.Write(name, installment);
+    paths.push_back(folder.Path(name));
+  }
   return paths;
 }
 
 BenchProgram::BenchProgram() {
   glavni = CrosswordState{};
-  toolkit::App::Path(files::LogicPath(folder_.path().string()));
+  toolkit::App::Path(files::LogicPath(folder_.Path()));
   BindEvents();
   frm_glavni->Show();
 }
@@ -84,7 +87,7 @@ BenchProgram::~BenchProgram() { UnloadForms(); }
 
 void BenchProgram::Choose(const std::string& name) const {
   auto& list = frm_ucit_snimi->File1;
-  if (list.ListCount() == 0) list.Path(files::LogicPath(folder_.path().string()));
+  if (list.ListCount() == 0) list.Path(files::LogicPath(folder_.Path()));
   otvori_dijalog(0);
   for (int row = 0; row < list.ListCount(); ++row) {
     if (list.List(row) != name) continue;

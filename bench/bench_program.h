@@ -29,9 +29,9 @@ class ScratchFolder {
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
-  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-  /// Writes a file and returns its host path.
-  std::string Write(const std::string& name, const std::string& bytes) const;
+  /// The host path of a file in it.
+  [[nodiscard]] std::string Path(const std::string& name = "") const;
+  void Write(const std::string& name, const std::string& bytes) const;
 
  private:
   std::filesystem::path path_;

@@ -47,17 +47,20 @@ void ReadValue(State& state, const std::string& host_path) {
 
 void BytesOfLargest(State& state) {
   const ScratchFolder folder;
-  ReadBytes(state, {folder.Write("merenje.qvm", CrosswordFile(largest))});
+  folder.Write("merenje.qvm", CrosswordFile(largest));
+  ReadBytes(state, {folder.Path("merenje.qvm")});
 }
 
 void LinesOfLargest(State& state) {
   const ScratchFolder folder;
-  ReadLines(state, {folder.Write("merenje.qvm", CrosswordFile(largest))});
+  folder.Write("merenje.qvm", CrosswordFile(largest));
+  ReadLines(state, {folder.Path("merenje.qvm")});
 }
 
 void ValueOfLargest(State& state) {
   const ScratchFolder folder;
-  ReadValue(state, folder.Write("merenje.qvm", CrosswordFile(largest)));
+  folder.Write("merenje.qvm", CrosswordFile(largest));
+  ReadValue(state, folder.Path("merenje.qvm"));
 }
 
 void BytesOfInstallments(State& state) {

@@ -3,7 +3,6 @@
 
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 
 #include "files/descriptor.h"
@@ -28,14 +27,14 @@ bool TextReader::Fill() {
   if (exhausted_) return false;
   buffer_.erase(0, position_);
   position_ = 0;
-  std::array<char, block_size> block;
+  char block[block_size];
   ssize_t count = 0;
   do {
-    count = read(descriptor_, block.data(), block.size());
+    count = read(descriptor_, block, block_size);
   } while (count < 0 && errno == EINTR);
   unreadable_ = count < 0;
   exhausted_ = count <= 0;
-  if (!exhausted_) buffer_.append(block.data(), static_cast<std::size_t>(count));
+  if (!exhausted_) buffer_.append(block, static_cast<std::size_t>(count));
   return !exhausted_;
 }
 
