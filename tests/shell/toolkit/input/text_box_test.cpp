@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
-#include <vector>
 
 #include "shell/toolkit/control_form.h"
 
@@ -15,134 +12,85 @@ namespace {
 
 class TextBoxTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    form.Show();
-    QApplication::setActiveWindow(form.InnerWidget());
+  TextBoxTest() {
     form.box.SetFocus();
-    form.box.KeyDown = [this](int& code, int) {
-      keys.push_back(code);
-      if (drop_keys) code = 0;
+    form.box.KeyDown = [this](int& code, int shift) {
+      raised.insert(raised.end(), {code, shift});
+      if (drop) code = 0;
     };
     form.box.KeyPress = [this](int& code) {
-      characters.push_back(code);
-      if (drop_characters) code = 0;
+      raised.push_back(code);
+      if (drop) code = 0;
     };
   }
 
-  QWidget* field() { return form.Widget("box"); }
-  void Type(const char* utf8, Qt::Key key) {
-    QTest::sendKeyEvent(QTest::Click, field(), key, QString::fromUtf8(utf8), Qt::NoModifier);
+  void Type(Qt::Key key, const char* text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    raised.clear();
+    QTest::sendKeyEvent(QTest::Click, field, key, QString::fromUtf8(text), modifiers);
   }
 
   ControlForm form;
-  std::vector<int> keys;
-  std::vector<int> characters;
-  bool drop_keys = false;
-  bool drop_characters = false;
+  QLineEdit* const field = form.Widget<QLineEdit>("box");
+  std::vector<int> raised;  ///< Codes of the key, Shift states, codes of the character.
+  bool drop = false;
 };
 
 TEST_F(TextBoxTest, KeysAndCharactersAreDifferentNumbers) {
-  Type(".", Qt::Key_Period);
-  Type("%", Qt::Key_Percent);
-  Type("'", Qt::Key_Apostrophe);
-  Type("(", Qt::Key_ParenLeft);
-  EXPECT_EQ(characters, (std::vector<int>{0x2E, 0x25, 0x27, 0x28}));
-  for (const int key : keys) EXPECT_TRUE(key < 0x23 || (key > 0x28 && key != 0x2E)) << key;
-  keys.clear();
-  characters.clear();
-  QTest::keyClick(field(), Qt::Key_Delete);
-  QTest::keyClick(field(), Qt::Key_Left);
-  QTest::keyClick(field(), Qt::Key_Return);
-  QTest::keyClick(field(), Qt::Key_Backspace);
-  EXPECT_EQ(keys, (std::vector<int>{0x2E, 0x25, 0x0D, 0x08}));
-  EXPECT_EQ(characters, (std::vector<int>{0x0D, 0x08}));
+  const struct {
+    Qt::Key key;
+    const char* text;
+    Qt::KeyboardModifiers modifiers;
+    std::vector<int> raised;
+  } rows[] = {{Qt::Key_Period, ".", Qt::NoModifier, {0xBE, 0, '.'}},
+              {Qt::Key_Percent, "%", Qt::ShiftModifier, {0x10, 1, '5', 1, '%'}},
+              {Qt::Key_A, "\x01", Qt::ControlModifier, {0x11, 2, 'A', 2, 1}},
+              {Qt::Key_Q, "q", Qt::AltModifier, {0x12, 4, 'Q', 4}},
+              {Qt::Key_F2, "", Qt::NoModifier, {0x71, 0}},
+              {Qt::Key_Delete, "\x7F", Qt::NoModifier, {0x2E, 0}},
+              {Qt::Key_Enter, "\r", Qt::NoModifier, {0x0D, 0, 0x0D}},
+              {Qt::Key_Hyper_L, "", Qt::NoModifier, {0xFF, 0}}};
+  for (const auto& row : rows) {
+    Type(row.key, row.text, row.modifiers);
+    EXPECT_EQ(raised, row.raised);
+  }
 }
 
-TEST_F(TextBoxTest, ADroppedCharacterChangesNothing) {
-  Type("a", Qt::Key_A);
-  EXPECT_EQ(form.box.Text(), "a");
-  drop_characters = true;
-  Type("b", Qt::Key_B);
-  EXPECT_EQ(form.box.Text(), "a");
-  drop_characters = false;
-  drop_keys = true;
-  QTest::keyClick(field(), Qt::Key_Backspace);
-  EXPECT_EQ(form.box.Text(), "a") << "the key was dropped";
-}
-
-TEST_F(TextBoxTest, TheMouseAndTheClipboardChangeNothing) {
-  QApplication::clipboard()->setText("tekst");
-  drop_keys = drop_characters = true;
-  QTest::keyClick(field(), Qt::Key_V, Qt::ControlModifier);
-  QTest::mouseClick(field(), Qt::MiddleButton);
-  EXPECT_EQ(form.box.Text(), "");
-  EXPECT_FALSE(field()->acceptDrops());
-}
-
-struct TypedCharacter {
-  const char* name;
-  const char* font;
-  int charset;
-  const char* typed;
-  int code;
-};
-
-class TypedCharacterTest : public TextBoxTest,
-                           public ::testing::WithParamInterface<TypedCharacter> {};
-
-TEST_P(TypedCharacterTest, ArrivesInTheCodeOfTheControl) {
-  form.box.FontName(GetParam().font);
-  form.box.Charset(GetParam().charset);
-  Type(GetParam().typed, Qt::Key_unknown);
-  EXPECT_EQ(characters, std::vector<int>{GetParam().code});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Characters, TypedCharacterTest,
-    ::testing::Values(TypedCharacter{"LatinC", "Arial", 238, "ć", 0xE6},
-                      TypedCharacter{"LatinDj", "Arial", 238, "Đ", 0xD0},
-                      TypedCharacter{"CyrillicZhe", "Arial", 204, "ж", 0xE6},
-                      TypedCharacter{"CyrillicInLatinPage", "Arial", 238, "ж", '?'},
-                      TypedCharacter{"LatinInCyrillicPage", "Arial", 204, "ć", '?'},
-                      TypedCharacter{"NationalLatin", "Kalvon", 0, "š", '{'},
-                      TypedCharacter{"NationalCyrillic", "C_Kalvon", 0, "ш", '{'},
-                      TypedCharacter{"NationalDigraph", "C_Kalvon", 0, "љ", 'q'},
-                      TypedCharacter{"NationalForeign", "Kalvon", 0, "ж", '?'},
-                      TypedCharacter{"Ascii", "C_Kalvon", 0, "a", 'a'}),
-    [](const auto& row) { return row.param.name; });
-
-TEST_F(TextBoxTest, AComposedLetterIsACharacterToo) {
-  form.box.FontName("Arial");
+TEST_F(TextBoxTest, ShowsAndTakesCharactersInTheCodeOfItsFont) {
+  const struct {
+    const char* font;
+    int charset;
+    std::string codes;
+    const char* shown;
+    const char* typed = shown;
+  } rows[] = {{"Arial", 238, "\xC6\xF0\x8A?", "ĆđŠ?", "ĆđŠж"},
+              {"Arial", 204, "\xE6\x80\x8A?", "жЂЉ?", "жЂЉć"},
+              {"Kalvon", 0, "Re~\\a?", "RečĐa?", "RečĐaж"},
+              {"C_Kalvon", 0, "Re~Qx[?", "РечЉџШ?", "РечЉџШć"},
+              {"Arial", 0, "Reč", "Reč"}};
+  for (const auto& row : rows) {
+    form.box.FontName(row.font);
+    form.box.Charset(row.charset);
+    form.box.Text(row.codes);
+    EXPECT_EQ(field->text().toStdString(), row.shown);
+    form.box.Text("");
+    QInputMethodEvent composed;
+    composed.setCommitString(QString::fromUtf8(row.typed));
+    QApplication::sendEvent(field, &composed);
+    EXPECT_EQ(form.box.Text(), row.codes);
+    drop = true;
+    QApplication::sendEvent(field, &composed);
+    Type(Qt::Key_Backspace, "\b");
+    EXPECT_EQ(form.box.Text(), row.codes) << "dropped";
+    drop = false;
+  }
+  form.box.Text("Re\xE8i");
+  EXPECT_EQ(field->text().toStdString(), "Reèi") << "no UTF-8";
   form.box.Charset(238);
-  drop_characters = true;
-  QInputMethodEvent composed;
-  composed.setCommitString(QString::fromUtf8("č"));
-  QApplication::sendEvent(field(), &composed);
-  EXPECT_EQ(characters, std::vector<int>{0xE8});
-  EXPECT_EQ(form.box.Text(), "");
-}
-
-TEST_F(TextBoxTest, ShowsItsTextByFontAndCharset) {
-  auto* line = form.Widget<QLineEdit>("box");
-  form.box.Text("\xC6");
-  form.box.FontName("Arial");
-  form.box.Charset(238);
-  EXPECT_EQ(line->text(), QString::fromUtf8("Ć"));
-  form.box.Charset(204);
-  EXPECT_EQ(line->text(), QString::fromUtf8("Ж"));
+  form.box.Text("\x81");
+  EXPECT_EQ(field->text().toStdString(), "\uFFFD") << "not assigned";
   form.box.FontName("Kalvon");
-  form.box.Text("Re~ X= 15 Q");
-  EXPECT_EQ(line->text(), QString::fromUtf8("Reč X= 15 Lj"));
-  EXPECT_EQ(form.box.Text(), "Re~ X= 15 Q");
-}
-
-TEST_F(TextBoxTest, AFailingKeyDownStillLetsTheCharacterCome) {
-  form.box.KeyDown = [](int& code, int) {
-    code = 0;
-    throw files::RuntimeError(files::error::invalid_call);
-  };
-  Type("a", Qt::Key_A);
-  EXPECT_EQ(characters, std::vector<int>{'a'});
+  form.box.Text("X= 15 Qx");
+  EXPECT_EQ(field->text().toStdString(), "X= 15 Ljdž");
 }
 
 }  // namespace
