@@ -20,15 +20,14 @@ class ScratchFolder {
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
-  [[nodiscard]] const std::string& HostPath() const { return path_; }
-  /// A host path below the folder.
-  [[nodiscard]] std::string Host(const std::string& name) const { return path_ + '/' + name; }
-  /// A path of the logic below the folder.
-  [[nodiscard]] std::string Logic(const std::string& name = "") const {
-    const std::string folder = files::LogicPath(path_);
-    return name.empty() ? folder : files::WithBackslash(folder) + name;
+  /// The host's path of a name in the folder, or that of the folder itself.
+  [[nodiscard]] std::string Host(const std::string& name = "") const {
+    return name.empty() ? path_ : path_ + '/' + name;
   }
-
+  /// The same, as the logic speaks it.
+  [[nodiscard]] std::string Logic(const std::string& name = "") const {
+    return files::LogicPath(path_) + (name.empty() ? "" : '\\' + name);
+  }
   void Put(const std::string& name, const std::string& text) const {
     std::ofstream(Host(name), std::ios::binary) << text;
   }

@@ -60,8 +60,7 @@ void PictureBox::BackColor(Colour colour) {
 }
 
 void PictureBox::FilledBox(int x1, int y1, int x2, int y2, Colour colour) {
-  const QRect box =
-      QRect(QPoint(Pixels(x1), Pixels(y1)), QPoint(Pixels(x2), Pixels(y2))).normalized();
+  const QRect box(QPoint(Pixels(x1), Pixels(y1)), QPoint(Pixels(x2), Pixels(y2)));
   surface().Painter(HostMode(draw_mode_)).fillRect(box, HostColour(colour));
   surface().Drawn(box);
 }
@@ -82,12 +81,15 @@ void PictureBox::Circle(int x, int y, int radius, float start, float end) {
 void PictureBox::Print(const std::string& text) {
   Face& face = FaceInUse();
   const Face::LaidOut& laid_out = face.LayOut(text);
-  const QPoint at(Pixels(current_x_), Pixels(current_y_) + face.RoomForCarons());
+  const QPoint at(Pixels(current_x_), Pixels(current_y_));
   QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
   painter.setFont(face.font());
   painter.setPen(Qt::black);
-  painter.drawStaticText(at, laid_out.text);
-  surface().Drawn(QRect(at, QSize(laid_out.width + 2, face.LineHeight())));
+  painter.drawStaticText(at + QPoint(0, face.RoomForCarons()), laid_out.text);
+  // Some letters reach beyond the width that they take up.
+  constexpr int overhang = 2;
+  surface().Drawn(
+      QRect(at, QSize(laid_out.width, face.LineHeight())).adjusted(-overhang, 0, overhang, 0));
 }
 
 void PictureBox::PaintPicture(const toolkit::Picture& picture, int x, int y) {

@@ -47,13 +47,13 @@ class PictureBox : public Control, public Container {
   /// Line and FilledBox obey it.
   void DrawMode(toolkit::DrawMode mode) { draw_mode_ = mode; }
 
-  /// Both corners are included.
+  /// From the upper left to the lower right corner, both included.
   void FilledBox(int x1, int y1, int x2, int y2, Colour colour);
   /// A line of one pixel, level or upright, with both its ends. On a dense display it covers whole
   /// units as a box does, where a pen is off by half of one.
   void Line(int x1, int y1, int x2, int y2, Colour colour) { FilledBox(x1, y1, x2, y2, colour); }
-  /// A black arc, counter-clockwise from `start` to `end`, both in radians from
-  /// the positive x axis with up as positive.
+  /// A black arc, counter-clockwise from `start` to `end`, both in radians from the positive x axis
+  /// with up as positive.
   void Circle(int x, int y, int radius, float start, float end);
 
   void CurrentX(int x) { current_x_ = x; }

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "shell/toolkit/desktop/browser_host.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QUrl>
+
+#include "files/folder_entries.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
+
+namespace toolkit {
+namespace {
+
+namespace fs = std::filesystem;
+using files::pass_over;
+
+/// A stand-in browser, registered as the default one in the home of the tests. It writes down what
+/// it is started with, a line for each argument.
+class BrowserHostTest : public ::testing::Test {
+ protected:
+  BrowserHostTest() {
+    folder_.Put("moj citac", "#!/bin/sh\nprintf '%s\\n' \"$@\" kraj >>'" + folder_.Host("spisak'"));
+    fs::permissions(folder_.Host("moj citac"), fs::perms::owner_all);
+    for (const fs::path& file : {entry_, defaults_}) fs::create_directories(file.parent_path());
+    std::ofstream(entry_) << "[Desktop Entry]\nType=Application\nName=Citac\nExec=" << command_
+                          << " %u\nMimeType=x-scheme-handler/http;\n";
+    std::ofstream(defaults_) << "[Default Applications]\nx-scheme-handler/http=moj-citac.desktop\n";
+    // What was looked up before is forgotten a moment after the folders have changed.
+    const std::string key = R"(http\shell\open\command)";
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return host_.Read(key).value_or(RegistryValue()).data == command_ + " %u"; }));
+  }
+  ~BrowserHostTest() override {
+    for (const fs::path& file : {entry_, defaults_}) fs::remove(file);
+  }
+
+  /// What the browser was started with, once it has written that down.
+  std::string Arguments() {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return folder_.Get("spisak").ends_with("kraj\n"); }));
+    const std::string written = folder_.Get("spisak");
+    fs::remove(folder_.Host("spisak"));
+    return written;
+  }
+
+  const fs::path entry_ = fs::path(getenv("XDG_DATA_HOME")) / "applications/moj-citac.desktop";
+  const fs::path defaults_ = fs::path(getenv("XDG_CONFIG_HOME")) / "mimeapps.list";
+  ScratchFolder folder_;
+  const std::string command_ = '"' + folder_.Host("moj citac") + "\" --novi";
+  BrowserHost& host_ = CurrentBrowserHost();
+};
+
+TEST_F(BrowserHostTest, OpensAPageByItsRealPathAndStartsNothingElse) {
+  for (const char* name : {"|", "NEMA|WWW_OpenURL", "MOJ-CITAC", "MOJ-CITAC|"})
+    EXPECT_EQ(pass_over([&] { host_.Connect(name); }), files::error::no_application_answered);
+  host_.Connect("MOJ-CITAC|WWW_OpenURL");
+  for (const char* name : {"Razmak i VELIKA.htm", "čćšžđ ћ.htm", "a,,b%20#?.htm",
+                           "\"$(touch x)`touch x`\";touch x;'.htm"}) {
+    folder_.Put(name, "");
+    host_.Request(files::LowerCase(folder_.Logic(name)) + ",,-1");
+    const QUrl page = QUrl::fromLocalFile(QString::fromStdString(folder_.Host(name)));
+    EXPECT_EQ(Arguments(), "--novi\n" + page.toEncoded().toStdString() + "\nkraj\n");
+  }
+  host_.Request("about:blank,,-1");
+  EXPECT_EQ(Arguments(), "--novi\nabout:blank\nkraj\n");
+  EXPECT_FALSE(fs::exists(folder_.Host("x")) || fs::exists("x"));
+}
+
+TEST_F(BrowserHostTest, StartsAProgramWithoutAShell) {
+  host_.Start(command_ + " 100%% %i '$(touch x)' \"a b\"");
+  EXPECT_EQ(Arguments(), "--novi\n100%\n$(touch x)\na b\nkraj\n");
+  for (const char* command : {"", "%u", "\"", "nema-takvog-programa --novi"})
+    EXPECT_EQ(pass_over([&] { host_.Start(command); }), files::error::file_not_found) << command;
+}
+
+}  // namespace
+}  // namespace toolkit
