@@ -27,7 +27,7 @@ class CrosswordFolder : public ::testing::Test {
 
   [[nodiscard]] Files All() const {
     Files files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.HostPath()))
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Host()))
       files[entry.path().filename()] = folder.Get(entry.path().filename());
     return files;
   }

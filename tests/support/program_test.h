@@ -30,7 +30,7 @@ class ProgramTest : public ::testing::Test {
   void Restart();
 
   // Files of the program folder.
-  [[nodiscard]] std::filesystem::path folder() const { return scratch_.HostPath(); }
+  [[nodiscard]] std::filesystem::path folder() const { return scratch_.Host(); }
   void WriteFile(const std::string& name, const std::string& bytes) const {
     scratch_.Put(name, bytes);
   }
