@@ -37,7 +37,12 @@ void ForgetOldCrossword() {
 
 }  // namespace
 
-Crossword OpenChosenCrossword() { return OpenCrossword(glavni.ukr_staza, FilesOfFolder()); }
+Crossword OpenChosenCrossword() {
+  // A look into another folder leaves the path of the file that was chosen before.
+  if (frm_ucit_snimi->txt_ucit.Text().empty())
+    throw files::RuntimeError(files::error::invalid_call);
+  return OpenCrossword(glavni.ukr_staza, FilesOfFolder());
+}
 
 void ReplaceCrossword(Crossword opened) {
   ForgetOldCrossword();

@@ -18,7 +18,7 @@ class MediaPaneTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-      Load("velika.qvm");
+    Load("velika.qvm");
   }
 
   void Show(const std::string& name, const std::string& bytes) {

@@ -1,97 +1,65 @@
 // SPDX-License-Identifier: MIT
-#include "solving/puzzle_commands.h"
 #include "shell/toolkit/desktop/screen.h"
-
-#include "solving/solving_test.h"
+#include "support/puzzle_test.h"
 
 namespace kalvon::testing {
 namespace {
 
-using Rows = std::vector<std::string>;
+using PuzzleCommands = PuzzleTest;
+using Grid = std::vector<std::string>;
 
-class PuzzleCommandsTest : public SolvingTest {};
-
-TEST_F(PuzzleCommandsTest, SolvesAndErasesTheSelectedWord) {
-  // Right, wrong and missing letters, across and, through the second click, down.
-  const Rows letters = {"QA   ", "B    ", "     ", "  C  "};
-  for (const bool down : {false, true}) {
+TEST_F(PuzzleCommands, SolveAndEraseTheSelectedWord) {
+  // Right, wrong and missing letters; the word is that through the cell.
+  struct Case {
+    std::pair<int, int> cell;
+    Grid solved, erased;
+  };
+  const Grid letters = {"QA   ", "B    ", "     ", "  C  "};
+  for (const Case& c :
+       {Case{{5, 2}, {"QA   ", "B IRM", "     ", "  C  "}, letters},
+        {{1, 4}, {"QA   ", "B    ", "     ", "OKO  "}, {"QA   ", "B    ", "     ", "     "}},
+        {{1, 1}, {"QA   ", "A    ", "T    ", "O C  "}, {" A   ", "     ", "     ", "  C  "}},
+        {{1, 3}, letters, letters}}) {  // No word.
     Solve({.rows = puzzle_rows, .letters = letters});
-    if (down) ClickCell(1, 1);
-    const Word word = Selection();
+    ClickCell(c.cell.first, c.cell.second);
     Keys("Right k");  // Typed but not entered, so it is lost.
     ClickButton("cmd_glavni(3)");
-    EXPECT_EQ(Letters(), down ? (Rows{"QA   ", "A    ", "T    ", "O C  "})
-                              : (Rows{"QXW  ", "B    ", "     ", "  C  "}));
-    EXPECT_EQ(glavni.rec_tekst, down ? "QATO" : "QXW");
-    EXPECT_EQ(Cell(1, 1), "QQ$0$1$1$00");
-    EXPECT_EQ(FocusedControl(), "txt_rec(0)");
-    EXPECT_EQ(MarkedCells(), VisibleCells(word));
-
+    EXPECT_EQ(Letters(), c.solved);
+    ExpectScreenOfState();
     ClickButton("cmd_glavni(4)");
-    EXPECT_EQ(Letters(), down ? (Rows{" A   ", "     ", "     ", "  C  "})
-                              : (Rows{"     ", "B    ", "     ", "  C  "}));
-    EXPECT_EQ(glavni.rec_tekst, down ? "____" : "___");
-    EXPECT_EQ(Cell(1, 1), "Q$0$1$1$00");
-    EXPECT_EQ(MarkedCells(), VisibleCells(word));
+    EXPECT_EQ(Letters(), c.erased);
+    EXPECT_EQ(Cell(1, 1), c.erased[0][0] == 'Q' ? "QQ$0$1$1$00" : "Q$0$1$1$00");
+    EXPECT_EQ(FocusedControl(), "txt_rec(0)");
+    ExpectScreenOfState();
   }
 }
 
-TEST_F(PuzzleCommandsTest, ChangesNoCellWithoutASelectedWord) {
-  const Rows letters = {"QA   ", "B    ", "C    ", "  C  "};
-  Solve({.rows = puzzle_rows, .letters = letters});
-  ClickCell(1, 3);
-  ClickButton("cmd_glavni(3)");
-  ClickButton("cmd_glavni(4)");
-  EXPECT_EQ(Letters(), letters);
-  EXPECT_EQ(MarkedCells(), Cells{});
-}
-
-struct Operation {
-  const char* name;
-  const char* button;
-  Rows letters;
-  const char* word;
-  const char* count;
-};
-
-TEST_F(PuzzleCommandsTest, WorksOnTheWholePuzzle) {
-  const Rows rows = {"QX#W", "A..M"};
-  const Rows letters = {"QA W", "   B"};
-  const std::vector<Operation> operations = {
-      {"erase all", "cmd_opcije(2)", {"    ", "    "}, "__", ""},
-      {"solve all", "cmd_opcije(3)", {"QX W", "A  M"}, "QX", ""},
-      {"count wrong letters", "cmd_opcije(4)", {"QA W", "   B"}, "QA", "2"},
-      {"erase wrong letters", "cmd_opcije(5)", {"Q  W", "    "}, "Q_", ""},
+TEST_F(PuzzleCommands, WorkOnTheWholePuzzle) {
+  struct Operation {
+    const char* button;
+    Grid letters;
+    const char *word, *count;
   };
-  for (const Operation& operation : operations) {
-    SCOPED_TRACE(operation.name);
-    Solve({.rows = rows, .letters = letters});
-    ClickButton("cmd_glavni(5)");
-    ClickButton(operation.button);
-    EXPECT_EQ(Letters(), operation.letters);
-    EXPECT_EQ(glavni.rec_tekst, operation.word);
-    EXPECT_EQ(frm_opcije->Label2.Caption(), operation.count);
-    EXPECT_EQ(Cell(3, 1), "$1$");
-    EXPECT_EQ(Cell(2, 2), "");
-    EXPECT_TRUE(Cell(1, 1).ends_with("$0$1$1$00"));
-    EXPECT_EQ(MarkedCells(), (Cells{{1, 1}, {2, 1}}));
+  Solve({.rows = {"QX#W", "A..M"}, .letters = {"QA W", "   B"}});
+  for (const auto& [button, letters, word, count] :
+       {Operation{"cmd_opcije(4)", {"QA W", "   B"}, "KA", "2"},  // Counts wrong letters.
+        {"cmd_opcije(5)", {"Q  W", "    "}, "Q_", "2"},           // Erases them.
+        {"cmd_opcije(4)", {"Q  W", "    "}, "Q_", "0"},
+        {"cmd_opcije(3)", {"QX W", "A  M"}, "QX", "0"},  // Solves all.
+        {"cmd_opcije(2)", {"    ", "    "}, "__", "0"}}) {
+    SCOPED_TRACE(button);
+    if (!frm_opcije->Visible()) {
+      Keys("k");  // Counting leaves the editor alone.
+      ClickButton("cmd_glavni(5)");
+    }
+    ClickButton(button);
+    EXPECT_EQ(Letters(), letters);
+    EXPECT_EQ(glavni.rec_tekst, word);
+    EXPECT_EQ(frm_opcije->Label2.Caption(), count);
+    EXPECT_EQ(Cell(3, 1) + Cell(2, 2), "$1$");
     EXPECT_EQ(toolkit::Screen::MousePointer(), 0);
-    ClickButton("cmd_opcije(0)");
+    ExpectScreenOfState(glavni.rec_tekst == "KA");
   }
-}
-
-TEST_F(PuzzleCommandsTest, KeepsTheCountUntilItIsAskedForAgain) {
-  Solve({.rows = puzzle_rows, .letters = {"AXA"}});
-  Keys("k");
-  ClickButton("cmd_glavni(5)");
-  ClickButton("cmd_opcije(4)");
-  EXPECT_EQ(frm_opcije->Label2.Caption(), "2");
-  EXPECT_EQ(glavni.rec_tekst, "KXA") << "counting leaves the editor alone";
-  ClickButton("cmd_opcije(5)");
-  EXPECT_EQ(frm_opcije->Label2.Caption(), "2");
-  EXPECT_EQ(glavni.rec_tekst, "_X_");
-  ClickButton("cmd_opcije(4)");
-  EXPECT_EQ(frm_opcije->Label2.Caption(), "0");
 }
 
 }  // namespace

@@ -9,8 +9,7 @@
 
 namespace kalvon::testing {
 
-/// A crossword file in the making. Word starts are found from its rows: a word has two letters or
-/// more. Clues are numbered as the program numbers those of a crossword of this one file.
+/// A crossword file in the making. A word has two letters or more.
 struct CrosswordText {
   /// Solution letters of each row, from the top; '#' is a gray block, '.' an empty cell.
   std::vector<std::string> rows = {};
@@ -18,20 +17,17 @@ struct CrosswordText {
   std::vector<std::string> letters = {};
   /// Marks of the lines 6 to 9: across, down, across, down.
   std::array<int, 4> marks = {};
-  /// Clues by their names: "A1" across number 1, "D1" down number 1. Others say their names.
+  /// Clues by their names: "A1" across, "D1" down from the first cell, row by row, that starts a
+  /// word. Others say their names.
   std::map<std::string, std::string> clues = {};
   /// The two digits of broken borders, by the column and row of the cell; the others have "00".
   std::map<std::pair<int, int>, std::string> borders = {};
   std::string media_table = {};
-  std::string title = "Proba";
-  std::string description = "Tri puta tri";
   int number = 1;
 };
 
 /// The bytes of its `.qvm` file.
 std::string Qvm(const CrosswordText& text);
-
-/// A `.qvm` file of these solution rows, with no more to it.
 std::string Qvm(const std::vector<std::string>& rows);
 
 /// Joins lines, each closed by CR LF.
