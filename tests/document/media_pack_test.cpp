@@ -34,12 +34,7 @@ class MediaPack : public ProgramTest {
 };
 
 TEST_F(MediaPack, IsThatOfTheInstallmentInWhichTheWordBegins) {
-  struct Row {
-    int joined;
-    int x;
-    int y;
-    const char* cut;
-  };
+  using Row = std::tuple<int, int, int, const char*>;
   for (const auto& [joined, x, y, cut] : {Row{1, 1, 1, "1"},
                                           {1, 8, 30, "1"},
                                           {1, 9, 1, "2"},
