@@ -7,9 +7,7 @@
 #include <vector>
 
 #include "crossword/cell.h"
-#include "crossword/clue.h"
 #include "crossword/crossword.h"
-#include "crossword/direction.h"
 #include "crossword/fields.h"
 #include "crossword/header.h"
 #include "crossword/installments.h"
@@ -33,20 +31,6 @@ TEST(Cell, CarriesTheUsersLetterBehindTheSolution) {
     EXPECT_EQ(WithUserLetter(cell, 'L'), with_l);
   }
   for (const char* blocked : {"", "$1$", "$"}) EXPECT_FALSE(IsLetterCell(blocked)) << blocked;
-}
-
-TEST(Clue, IsReadFromItsField) {
-  using Row = std::tuple<const char*, int, const char*, const char*>;
-  for (const auto& [attributes, direction, media, text] :
-       {Row{"011$a$b$c$Prvo$Drugo$x", 1, "", "Prvo"},
-        {"011$a$b$c$Prvo$Drugo$x", 2, "", "Drugo"},
-        {"010$$$$/kit.bmp/Kit/2$$", 1, "kit.bmp", "Kit/2"},
-        {"010$$$$/kit$$", 1, "", "/kit"},
-        {"010$$$$Otvoreno", 1, "", "Otvoreno"},
-        {"0", 2, "", ""}}) {
-    const Clue clue = ReadClue(attributes, direction);
-    EXPECT_EQ(std::tuple(clue.media, clue.text), std::tuple(media, text)) << attributes;
-  }
 }
 
 TEST(Table, KnowsItsBoundsAndTheLimitsOfNumbers) {

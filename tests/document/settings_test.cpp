@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "files/host_paths.h"
@@ -54,11 +55,7 @@ TEST_F(Settings, SurviveARestart) {
 }
 
 TEST_F(Settings, HaveDefaultsForWhatCannotBeRead) {
-  struct Case {
-    const char* fault;
-    std::string bytes;
-    bool cyrillic, unicode;
-  };
+  using Case = std::tuple<const char*, std::string, bool, bool>;
   const std::string head = "Any title\r\nStaza:c:\\\r\n";
   const std::vector<Case> cases = {
       {"no line end", head + "Pismo:Cirilica\r\nTastatura:Unikod", true, true},
@@ -68,13 +65,12 @@ TEST_F(Settings, HaveDefaultsForWhatCannotBeRead) {
       {"no folder", "\r\nStaza:c:\\no\\such\r\nPismo:Cirilica\r\nTastatura:Unikod\r\n", true, true},
       {"no colon", "\r\nStaza\r\nCirilica\r\nUnikod\r\n", false, false},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.fault);
-    WriteFile(file_name, c.bytes);
+  for (const auto& [fault, bytes, cyrillic, unicode] : cases) {
+    SCOPED_TRACE(fault);
+    WriteFile(file_name, bytes);
     Restart();
-    ExpectOptions(c.cyrillic, c.unicode);
-    const bool other_folder = c.bytes.starts_with(head);
-    EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), other_folder ? "c:\\" : ProgramFolder());
+    ExpectOptions(cyrillic, unicode);
+    EXPECT_EQ(frm_ucit_snimi->Dir1.Path(), bytes.starts_with(head) ? "c:\\" : ProgramFolder());
   }
 }
 
