@@ -28,23 +28,19 @@ class ClueLists : public PuzzleTest {
 };
 
 TEST_F(ClueLists, ClueIsReadFromItsField) {
-  struct Field {
-    const char* line;
-    int list;
-    const char *medium, *text;
-  };
-  for (const Field& field : {Field{"011$$$$ACROSS$DOLE$", 1, "", "1: ACROSS"},
-                             {"011$$$$ACROSS$DOLE$", 2, "", "1: DOLE"},
-                             {"011$$$$/kit.bmp/A/B$$", 1, "kit.bmp", "1: A/B"},
-                             {"011$$$$A/B$$", 1, "", "1: A/B"},
-                             {"011$$$$NOT CLOSED", 1, "", "1: NOT CLOSED"},
-                             {"011$$$$$/ a.avi /OPEN", 2, "a.avi", "1: OPEN"},
-                             {"011$$$$/NO END$$", 1, "", "1: /NO END"},
-                             {"011$$$", 2, "", "1: "}}) {
+  for (const auto& [line, list, medium, clue] :
+       {std::tuple{"011$$$$ACROSS$DOLE$", 1, "", "1: ACROSS"},
+        {"011$$$$ACROSS$DOLE$", 2, "", "1: DOLE"},
+        {"011$$$$/kit.bmp/A/B$$", 1, "kit.bmp", "1: A/B"},
+        {"011$$$$A/B$$", 1, "", "1: A/B"},
+        {"011$$$$NOT CLOSED", 1, "", "1: NOT CLOSED"},
+        {"011$$$$$/ a.avi /OPEN", 2, "a.avi", "1: OPEN"},
+        {"011$$$$/NO END$$", 1, "", "1: /NO END"},
+        {"011$$$", 2, "", "1: "}}) {
     std::string qvm = Qvm(Comb(3));
-    Solve(qvm.replace(qvm.find("011$"), 13, field.line));
-    EXPECT_EQ(glavni.lista(1, 1, field.list), field.text) << field.line;
-    EXPECT_EQ(glavni.lista(1, 5, field.list), field.medium) << field.line;
+    Solve(qvm.replace(qvm.find("011$"), 13, line));
+    EXPECT_EQ(glavni.lista(1, 1, list), clue) << line;
+    EXPECT_EQ(glavni.lista(1, 5, list), medium) << line;
   }
 }
 

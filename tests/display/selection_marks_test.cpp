@@ -34,17 +34,13 @@ TEST_F(SelectionMarks, RowOfAListIsFifteenPixelsHighAndThatOfALongClueToo) {
 }
 
 TEST_F(SelectionMarks, ViewMovesOnlyAsFarAsTheClueNeeds) {
-  struct Move {
-    int view_x, view_y;  ///< The view before the click.
-    int row;             ///< Of the clue in its list.
-    int shown_x, shown_y;
-  };
   // Across words of two letters at the four corners and in the middle of a 40 by 30 grid.
   CrosswordText text{.rows = std::vector(30, std::string(40, '#'))};
   for (const auto& [x, y] : {std::pair{0U, 0U}, {38, 0}, {19, 14}, {0, 29}, {38, 29}})
     text.rows[y].replace(x, 2, "AB");
   Solve(text);
-  for (const auto& [view_x, view_y, row, shown_x, shown_y] : {Move{1, 1, 2, 26, 1},
+  // The view before the click, the clue's row in its list, the view after it.
+  for (const auto& [view_x, view_y, row, shown_x, shown_y] : {std::array{1, 1, 2, 26, 1},
                                                               {26, 16, 1, 1, 1},
                                                               {10, 16, 3, 10, 15},
                                                               {1, 10, 3, 20, 10},

@@ -55,7 +55,11 @@ TEST_F(Settings, SurviveARestart) {
 }
 
 TEST_F(Settings, HaveDefaultsForWhatCannotBeRead) {
-  using Case = std::tuple<const char*, std::string, bool, bool>;
+  struct Case {
+    const char* fault;
+    std::string bytes;
+    bool cyrillic, unicode;
+  };
   const std::string head = "Any title\r\nStaza:c:\\\r\n";
   const std::vector<Case> cases = {
       {"no line end", head + "Pismo:Cirilica\r\nTastatura:Unikod", true, true},

@@ -67,21 +67,6 @@ TEST_F(WordEditor, EntersTheWordIntoItsCells) {
   }
 }
 
-TEST_F(WordEditor, StaysValidWithAWordOfOneLetterAndWithNone) {
-  std::string qvm = Qvm({.rows = puzzle_rows, .letters = {"ABCDE", "F", "G"}});
-  Solve(qvm.replace(qvm.find("KE$0$0$1$00\r\n001"), 16, "KE$0$0$1$00\r\n011"));
-  ClickCell(5, 1);
-  EXPECT_EQ(Selection(), (Word{1, 5, 1, 5, 1}));
-  Keys("Right Down End k Space Backspace m Return");
-  EXPECT_EQ(Letters()[0], "ABC M");
-  ClickCell(1, 3);
-  const auto letters = Letters();
-  Keys("q Delete Backspace Space End Home Right Return");
-  EXPECT_EQ(glavni.rec_tekst, "");
-  EXPECT_EQ(Letters(), letters);
-  ExpectScreenOfState();
-}
-
 TEST_F(WordEditor, EditsOnlyTheBoxesOfALongWord) {
   Solve({.rows = {std::string(18, 'A')}, .letters = {"BBBBBBBBBBBBBBBBBC"}});
   Keys("End k Right Right Space End Backspace End m");
@@ -89,15 +74,6 @@ TEST_F(WordEditor, EditsOnlyTheBoxesOfALongWord) {
   ExpectScreenOfState(true);
   Keys("Return");
   EXPECT_EQ(Letters()[0], "BBBBBBBBBBBBBBMBBC");
-}
-
-TEST_F(WordEditor, EntersOnlyIntoTheWordThatItShows) {
-  Solve({.rows = puzzle_rows});
-  Keys("q x w");
-  glavni.smer = 2;
-  glavni.rec_x1 = 4;
-  Keys("Return");
-  EXPECT_EQ(Letters(), (std::vector<std::string>{"QXW  ", "     ", "     ", "     "}));
 }
 
 }  // namespace

@@ -68,23 +68,20 @@ TEST_F(WordSelection, SelectsByClicks) {
 }
 
 TEST_F(WordSelection, CountsCellsByPixelsUpToTheEdgeOfTheGrid) {
-  struct Pixel {
-    int x, y;
-    int cell_x, cell_y;
-  };
-  const auto expect_cell = [&](const Pixel& pixel) {
-    ClickPicture("pic_ukr", pixel.x, pixel.y);
-    EXPECT_EQ(glavni.klik_x, pixel.cell_x) << pixel.x;
-    EXPECT_EQ(glavni.klik_y, pixel.cell_y) << pixel.y;
+  const std::vector<std::string> large(16, std::string(16, 'A'));
+  for (const auto& [rows, x, y, cell_x, cell_y] : {std::tuple{large, 0, 1, 1, 1},
+                                                   {large, 27, 28, 1, 2},
+                                                   {large, 28, 27, 2, 1},
+                                                   {large, 419, 419, 15, 15},
+                                                   {puzzle_rows, 13 * 28, 14 * 28, 5, 4},
+                                                   {puzzle_rows, 5, 14 * 28, 1, 4}}) {
+    Solve(Qvm(rows));
+    ClickPicture("pic_ukr", x, y);
+    EXPECT_EQ(glavni.klik_x, cell_x) << x;
+    EXPECT_EQ(glavni.klik_y, cell_y) << y;
+    EXPECT_EQ(Selection()[2], cell_y);
     ExpectScreenOfState();
-  };
-  Solve({.rows = std::vector(16, std::string(16, 'A'))});
-  for (const Pixel& pixel : {Pixel{0, 1, 1, 1}, {27, 28, 1, 2}, {28, 27, 2, 1}, {419, 419, 15, 15}})
-    expect_cell(pixel);
-  Solve({.rows = puzzle_rows});
-  expect_cell({13 * 28, 14 * 28, 5, 4});
-  EXPECT_EQ(Selection(), (Word{1, 1, 4, 3, 4}));
-  expect_cell({5, 14 * 28, 1, 4});
+  }
 }
 
 TEST_F(WordSelection, KeepsTheOldWordWhenAClueHasNone) {

@@ -50,13 +50,14 @@ std::string Qvm(const CrosswordText& text) {
     const auto name = direction + std::to_string(starts);
     return text.clues.contains(name) ? text.clues.at(name) : name;
   };
-  for (int y = 1; y <= height; ++y)
+  for (int y = 1; y <= height; ++y) {
     for (int x = 1; x <= width; ++x) {
       const auto starts_word = [&](int dx, int dy) {
         return HoldsLetter(rows, x, y) && !HoldsLetter(rows, x - dx, y - dy) &&
                HoldsLetter(rows, x + dx, y + dy);
       };
-      const bool across = starts_word(1, 0), down = starts_word(0, 1);
+      const bool across = starts_word(1, 0);
+      const bool down = starts_word(0, 1);
       std::string cell = At(rows, x, y) == '#' ? "$1$" : "";
       if (HoldsLetter(rows, x, y)) {
         const auto border = text.borders.find({x, y});
@@ -74,6 +75,7 @@ std::string Qvm(const CrosswordText& text) {
       }
       lines.insert(lines.end(), {cell, attributes});
     }
+  }
   return Lines(lines);
 }
 

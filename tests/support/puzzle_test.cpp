@@ -140,13 +140,14 @@ void PuzzleTest::PaintAnew() {
   for (const int list : {0, 1}) skrol_pitanja(list);
   crtaj_ukrstenicu();
   glavni = state;
-  for (int x = glavni.rec_x1; x <= glavni.rec_x2; ++x)
+  for (int x = glavni.rec_x1; x <= glavni.rec_x2; ++x) {
     for (int y = glavni.rec_y1; y <= glavni.rec_y2; ++y) {
       const int left = (x - glavni.pogled_x) * pitch;
       const int top = (y - glavni.pogled_y) * pitch;
       if (InView(x, glavni.pogled_x) && InView(y, glavni.pogled_y))
         Mark(frm_glavni->pic_ukr, left, top, left + pitch - 2, top + pitch - 2);
     }
+  }
   if (glavni.sel_broj == 0) return;
   const auto page = Page(glavni.sel_strana);
   if (const auto clue = page.find(glavni.sel_broj); clue != page.end()) {

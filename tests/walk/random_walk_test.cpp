@@ -32,11 +32,12 @@ const Action actions[] = {
     {main_form, 3, ends, "Return"},
     {main_form, 3, keeps, "cmd_glavni(0) cmd_glavni(1)"},
     {main_form, 2, keeps, "cmd_glavni(5) cmd_glavni(6)"},
-    {main_form, 3, ends, "cmd_glavni(2) cmd_glavni(3) cmd_glavni(4)"},
+    {main_form, 2, ends, "cmd_glavni(3) cmd_glavni(4)"},
+    {main_form, 1, ends, "cmd_glavni(2) Return"},
     {help, 1, keeps, "cmd_glavni(6) pic_tekst(0) txt_rec1"},
-    {dialog, 4, keeps, "File1"},
-    {dialog, 4, ends, "cmd_ucit(0)"},
-    {dialog, 2, keeps, "Dir1 cmd_ucit(1)"},
+    {dialog, 20, keeps, "File1"},
+    {dialog, 5, ends, "cmd_ucit(0)"},
+    {dialog, 1, keeps, "Dir1 cmd_ucit(1)"},
     {dialog, 1, ends, "crash"},
     {options, 3, keeps, "opt_opcije(0) opt_opcije(1) opt_opcije1(0) opt_opcije1(1) cmd_opcije(4)"},
     {options, 3, ends, "cmd_opcije(2) cmd_opcije(3) cmd_opcije(5)"},
@@ -53,6 +54,7 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
       if (sample.file_size() < 100'000) CopySample(sample.path().filename().string());
     WriteFile("losa.qvm", "\r\nNaziv: Ima samo dva reda\r\n");
     PuzzleTest::SetUp();
+    ClickButton("cmd_glavni(0)");
   }
 
   void Step() {
