@@ -10,7 +10,7 @@
 
 #include <chrono>
 #include <csignal>
-#include <map>
+#include <functional>
 #include <set>
 #include <thread>
 
@@ -30,9 +30,9 @@ constexpr std::size_t line_length = 99;
 
 class TextFileTest : public testing::Test {
  protected:
-  [[nodiscard]] Names NamesIn(const std::string& folder) const {
+  [[nodiscard]] Names AllNames() const {
     Names names;
-    for (const auto& entry : fs::directory_iterator(folder_.Host(folder)))
+    for (const auto& entry : fs::recursive_directory_iterator(folder_.Host()))
       names.insert(entry.path().filename());
     return names;
   }
@@ -56,9 +56,7 @@ class TextFileTest : public testing::Test {
   const std::string host_zima_ = folder_.Host("zima.qvm");
 };
 
-/// Starts a process of its own for the action, whose result is the exit status.
-template <typename Action>
-pid_t Fork(Action action) {
+pid_t Fork(const std::function<int()>& action) {
   const pid_t child = fork();
   if (child == 0) _exit(action());
   return child;
@@ -72,12 +70,10 @@ int ExitStatus(pid_t child) {
 }
 
 TEST_F(TextFileTest, DividesLinesAtCrLfOnly) {
-  const std::vector<std::string> lines = {"jedan", "", "dva\rtri\nčetiri\r", "", "pet\r"};
   folder_.Put("zima.qvm", "jedan\r\n\r\ndva\rtri\nčetiri\r\r\n\r\npet\r");
   TextReader reader(zima_);
-  for (const std::string& line : lines) EXPECT_EQ(reader.Line(), line);
-  EXPECT_TRUE(reader.AtEnd());
-
+  for (const char* line : {"jedan", "", "dva\rtri\nčetiri\r", "", "pet\r"})
+    EXPECT_EQ(reader.Line(), line);
   // Each byte of a line comes to lie at the end of a block that is read.
   folder_.Put("zima.qvm", Written('x', 70'000));
   TextReader longer(zima_);
@@ -86,14 +82,10 @@ TEST_F(TextFileTest, DividesLinesAtCrLfOnly) {
   EXPECT_EQ(whole, 70'000);
 }
 
-TEST_F(TextFileTest, OpensOnlyFilesAndEndsALoopThatPassesOverAnEndlessLine) {
-  for (const auto& [path, failure] :
-       std::map<std::string, int>{{zima_, 53}, {folder_.Logic(), 75}, {"c:\\dev\\zero", 75}})
-    EXPECT_EQ(pass_over([&] { TextReader reader(path); }), failure) << path;
+TEST_F(TextFileTest, EndsALoopThatPassesOverAnEndlessLine) {
   folder_.Put("zima.qvm", std::string(std::size_t{17} << 20, 'x'));
   TextReader reader(zima_);
   EXPECT_EQ(pass_over([&] { reader.Line(); }), 14);
-  EXPECT_TRUE(reader.AtEnd());
   EXPECT_EQ(pass_over([&] { reader.Line(); }), 62);
 }
 
@@ -108,33 +100,25 @@ TEST_F(TextFileTest, KeepsNamePermissionsAndLinksOfWhatItRewrites) {
   EXPECT_EQ(folder_.Get("prava/Leto.QVM"), Written('n'));
   EXPECT_EQ(fs::status(file).permissions(), fs::perms{0620});
   EXPECT_TRUE(fs::is_symlink(folder_.Host("Zima.qvm")) && fs::is_symlink(folder_.Host("srednja")));
-  EXPECT_EQ(NamesIn("prava"), Names{"Leto.QVM"});
+  EXPECT_EQ(AllNames(), (Names{"prava", "Leto.QVM", "srednja", "Zima.qvm"}));
 }
 
-TEST_F(TextFileTest, KeepsTheOwnerWherePossibleAndWidensNoRights) {
+TEST_F(TextFileTest, WidensNoRightsOfAnOwnerWhoCannotBeKept) {
   if (geteuid() != 0) GTEST_SKIP() << "only the administrator can give a file away";
-  // The program's user and whether he is in the group 9, the old owner and mode, what comes of it.
-  constexpr unsigned rows[][7] = {{0, 0, 8, 0620, 8, 9, 0620},
-                                  {0, 0, 0, 0664, 0, 9, 0664},
-                                  {7, 1, 8, 06776, 7, 9, 0776},
-                                  {7, 0, 8, 06776, 7, 7, 0766}};
+  folder_.Put("zima.qvm", "staro");
+  ASSERT_EQ(chown(host_zima_.c_str(), 8, 9) + chmod(host_zima_.c_str(), 06776), 0);
+  // The folders above may be closed to the user; the one in which his program stands is not.
   ASSERT_EQ(chmod(folder_.Host().c_str(), 0777), 0);
-  for (const auto& [user, groups, owner, mode, new_owner, new_group, new_mode] : rows) {
-    folder_.Put("zima.qvm", "staro");
-    ASSERT_EQ(chown(host_zima_.c_str(), owner, 9) + chmod(host_zima_.c_str(), mode), 0);
-    // The folders above may be closed to the user; the one in which his program stands is not.
-    EXPECT_EQ(ExitStatus(Fork([&, user = user, groups = groups] {
-                constexpr gid_t group = 9;
-                const bool ready = chdir(folder_.Host().c_str()) == 0 &&
-                                   setgroups(groups, &group) + setgid(user) + setuid(user) == 0;
-                return ready ? Rewrite("c:\\proc\\self\\cwd\\zima.qvm", 'n') : 99;
-              })),
-              0);
-    struct stat status {};
-    ASSERT_EQ(stat(host_zima_.c_str(), &status), 0);
-    EXPECT_EQ((std::vector{status.st_uid, status.st_gid, status.st_mode & 07777}),
-              (std::vector{new_owner, new_group, new_mode}));
-  }
+  EXPECT_EQ(ExitStatus(Fork([&] {
+              const bool ready = chdir(folder_.Host().c_str()) == 0 &&
+                                 setgroups(0, nullptr) + setgid(7) + setuid(7) == 0;
+              return ready ? Rewrite("c:\\proc\\self\\cwd\\zima.qvm", 'n') : 99;
+            })),
+            0);
+  struct stat status {};
+  ASSERT_EQ(stat(host_zima_.c_str(), &status), 0);
+  EXPECT_EQ((std::vector{status.st_uid, status.st_gid, status.st_mode & 07777}),
+            (std::vector<unsigned>{7, 7, 0766}));
 }
 
 TEST_F(TextFileTest, LeavesTheOldFileAloneUntilTheNewOneIsWhole) {
@@ -149,10 +133,8 @@ TEST_F(TextFileTest, LeavesTheOldFileAloneUntilTheNewOneIsWhole) {
               return setrlimit(RLIMIT_FSIZE, &limit) == 0 ? Rewrite(zima_, 'n', 2000) : 99;
             })),
             61);
-  for (const char* temporary : {"zima.qvm", "..\\zima.qvt", "a/b", "..", ""})
-    EXPECT_EQ(pass_over([&] { FileRewrite(zima_, temporary); }), 75) << temporary;
   EXPECT_EQ(folder_.Get("zima.qvm"), "staro");
-  EXPECT_EQ(NamesIn(""), Names{"zima.qvm"});
+  EXPECT_EQ(AllNames(), Names{"zima.qvm"});
 }
 
 TEST_F(TextFileTest, ThrowsAwayWhatLiesInThePlaceOfTheTemporaryFile) {
@@ -163,18 +145,14 @@ TEST_F(TextFileTest, ThrowsAwayWhatLiesInThePlaceOfTheTemporaryFile) {
   EXPECT_EQ(folder_.Get("zima.qvm"), Written('a'));
   fs::create_symlink("tuđa", temporary);
   EXPECT_EQ(Rewrite(zima_, 'b'), 0);
-  folder_.Put("prazna", "");
-  for (const char* name : {"tuđa", "prazna", "zima.qvm"}) {
+  for (const char* name : {"tuđa", "zima.qvm"}) {
     fs::create_hard_link(folder_.Host(name), temporary);
     EXPECT_EQ(Rewrite(zima_, 'c'), 0);
   }
-  EXPECT_EQ(folder_.Get("prazna"), "");
-  EXPECT_EQ(NamesIn(""), (Names{"prazna", "tuđa", "zima.qvm"}));
-  {
-    FileRewrite file(zima_, "zima.qvt");
-    fs::rename(folder_.Host("tuđa"), temporary);
-    EXPECT_EQ(pass_over([&] { file.Commit(); }), 75) << "what bears the name now is another's";
-  }
+  EXPECT_EQ(AllNames(), (Names{"tuđa", "zima.qvm"}));
+  FileRewrite file(zima_, "zima.qvt");
+  fs::rename(folder_.Host("tuđa"), temporary);
+  EXPECT_EQ(pass_over([&] { file.Commit(); }), 75) << "what bears the name now is another's";
   EXPECT_EQ(folder_.Get("zima.qvt"), "tuđe");
   EXPECT_EQ(folder_.Get("zima.qvm"), Written('c'));
 }
@@ -187,12 +165,12 @@ TEST_F(TextFileTest, HoldsAWholeFileWhileProgramsSaveAtOnceAndDie) {
   };
   ASSERT_EQ(Rewrite(zima_, 'a', lines), 0);
   for (int round = 1; round <= 12; ++round) {
-    std::vector<pid_t> programs;
-    for (const char letter : {'b', 'c', 'd'})
-      programs.push_back(Fork([&] {
-        while (Rewrite(zima_, letter, lines) == 0 && whole()) continue;
-        return 1;
-      }));
+    const auto save_on = [&](char letter) {
+      while (Rewrite(zima_, letter, lines) == 0 && whole()) continue;
+      return 1;
+    };
+    const pid_t programs[] = {Fork([&] { return save_on('b'); }),
+                              Fork([&] { return save_on('c'); })};
     std::this_thread::sleep_for(std::chrono::milliseconds(7 * round));
     for (const pid_t program : programs) {
       kill(program, SIGKILL);
@@ -201,7 +179,7 @@ TEST_F(TextFileTest, HoldsAWholeFileWhileProgramsSaveAtOnceAndDie) {
     ASSERT_TRUE(whole());
   }
   EXPECT_EQ(Rewrite(zima_, 'e'), 0);
-  EXPECT_EQ(NamesIn(""), Names{"zima.qvm"});
+  EXPECT_EQ(AllNames(), Names{"zima.qvm"});
 }
 
 }  // namespace
