@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "multimedia/media_pane.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QPlainTextEdit>
 #include <QToolButton>
-#include <functional>
 
 #include "shell/toolkit/windows/application.h"
 #include "support/data_file.h"
@@ -39,14 +39,18 @@ class MediaPaneTest : public ProgramTest {
   [[nodiscard]] QToolButton* BarButton(const char* name) const {
     return Widget("mm_media")->findChild<QToolButton*>(QString::fromLatin1(name));
   }
+  void Press(const char* name) { QTest::mouseClick(BarButton(name), Qt::LeftButton); }
+  /// What has played to its end has no type any more.
+  static bool HasEnded() {
+    return QTest::qWaitFor([] { return glavni.media_tip.empty(); }, 10'000);
+  }
   void Click(const std::string& control) {
     auto* text = Widget<QPlainTextEdit>(control);
-    QTest::mouseClick(text == nullptr ? Widget(control) : text->viewport(), Qt::LeftButton, {},
-                      {3, 3});
+    QTest::mouseClick(text == nullptr ? Widget(control) : text->viewport(), Qt::LeftButton);
   }
 };
 
-TEST_F(MediaPaneTest, LiesOverTheListOfTheWordsDirectionWithTheTextOfTheClue) {
+TEST_F(MediaPaneTest, LiesOverTheListOfTheWordsDirectionAndShowsTheClueWhateverTheMedium) {
   for (const int direction : {1, 2}) {
     glavni.smer = direction;
     ShowAsItIs("nema.xyz");
@@ -55,6 +59,17 @@ TEST_F(MediaPaneTest, LiesOverTheListOfTheWordsDirectionWithTheTextOfTheClue) {
     EXPECT_EQ(frm_glavni->txt_media(0).Text(), "Ljubav");
     for (const char* content : {"pic_media(5)", "txt_media(1)", "mm_media"})
       EXPECT_FALSE(Widget(content)->isVisible()) << content;
+  }
+  const std::string wave = DataFile("tone.wav");
+  const std::pair<const char*, std::string> refused[] = {
+      {"zvuk.wav", wave.substr(0, 12)},
+      {"film.avi", wave},
+      {"muzika.mid", "#EXTM3U\nhttp://127.0.0.1/a.mid\n"}};
+  for (const auto& [name, bytes] : refused) {
+    Show(name, bytes);
+    ExpectOpen(true, name);
+    EXPECT_EQ(frm_glavni->txt_media(0).Text(), "Ljubav") << name;
+    EXPECT_FALSE(BarButton("play")->isEnabled()) << name;
   }
 }
 
@@ -73,10 +88,8 @@ TEST_F(MediaPaneTest, CentresAPictureAndKeepsItWhenTheNextOneIsBroken) {
 }
 
 TEST_F(MediaPaneTest, ShowsTheLinesOfATextWithItsDigraphs) {
-  const std::pair<const char*, const char*> texts[] = {{"", "\r\n"},
-                                                       {"Qubav", "Ljubav\r\n"},
-                                                       {"prvi\r\n\r\n", "prvi\r\n\r\n"},
-                                                       {"a\nb", "a\nb\r\n"}};
+  const std::pair<const char*, const char*> texts[] = {
+      {"", "\r\n"}, {"Qubav\r\n\r\n", "Ljubav\r\n\r\n"}, {"a\nb", "a\nb\r\n"}};
   for (const auto& [bytes, text] : texts) {
     Show("tekst.txt", bytes);
     EXPECT_EQ(frm_glavni->txt_media(1).Text(), text);
@@ -88,27 +101,12 @@ TEST_F(MediaPaneTest, ShowsTheLinesOfATextWithItsDigraphs) {
   EXPECT_TRUE(Widget("txt_media(1)")->isVisible());
 }
 
-TEST_F(MediaPaneTest, AMediumThatCannotPlayStillShowsTheText) {
-  for (const char* name : {"film.avi", "zvuk.wav", "muzika.mid"}) {
-    Show(name, "nothing that plays");
-    ExpectOpen(true, name);
-    EXPECT_EQ(frm_glavni->txt_media(0).Text(), "Ljubav") << name;
-    EXPECT_FALSE(BarButton("play")->isEnabled()) << name;
-  }
-}
-
 TEST_F(MediaPaneTest, ARightClickOnAClueShowsItsMediumAndAnyClickClosesWhatIsNoVideo) {
-  struct Row {
-    int list;
-    const char* clue;
-    const char* file;
-    const char* shown;
-    const char* clicked;
-  };
-  const Row rows[] = {{1, "49: ", "camac.bmp", "pic_media(5)", "pic_media(5)"},
-                      {1, "28: ", "lipar.txt", "txt_media(1)", "txt_media(1)"},
-                      {0, "47: ", "ton.wav", "mm_media", "pic_media(4)"},
-                      {0, "40: ", "valcer.mid", "mm_media", "txt_media(0)"}};
+  const std::tuple<int, const char*, const char*, const char*, const char*> rows[] = {
+      {1, "49: ", "camac.bmp", "pic_media(5)", "pic_media(5)"},
+      {1, "28: ", "lipar.txt", "txt_media(1)", "txt_media(1)"},
+      {0, "47: ", "ton.wav", "mm_media", "pic_media(4)"},
+      {0, "40: ", "valcer.mid", "mm_media", "txt_media(0)"}};
   CopySample("velika.qvd");
   for (const auto& [list, clue, file, shown, clicked] : rows) {
     SCOPED_TRACE(file);
@@ -129,34 +127,46 @@ TEST_F(MediaPaneTest, ARightClickOnAClueShowsItsMediumAndAnyClickClosesWhatIsNoV
   }
 }
 
-TEST_F(MediaPaneTest, AVideoIsClosedByAClickOnlyWhenItHasPlayed) {
+TEST_F(MediaPaneTest, EachKindPlaysToItsEndAndAVideoIsClosedByAClickOnlyThen) {
+  for (const char* sound : {"tone.wav", "melody.mid"}) {
+    Show(sound, DataFile(sound));
+    EXPECT_TRUE(Plays() && HasEnded()) << sound;
+  }
   Show("film.avi", DataFile("film.avi"));
   EXPECT_EQ(Widget("pic_media(5)")->geometry(), QRect(8, 50, 160, 120));
   EXPECT_TRUE(Widget("mm_media")->isVisible());
   EXPECT_EQ(FocusedControl(), "pic_media(5)");
+  frm_glavni->pic_media(5).Height(140);
   for (const char* control : {"pic_media(5)", "pic_media(4)", "txt_media(0)"}) Click(control);
   ExpectOpen(true, "film.avi");
-  ASSERT_TRUE(QTest::qWaitFor([] { return glavni.media_tip.empty(); }, 10'000));
+  ASSERT_TRUE(HasEnded());
   EXPECT_EQ(glavni.media_gotovo, 0);
-  EXPECT_EQ(PixelOf("pic_media(5)", 40, 30), 0xFF0000U);
-  EXPECT_EQ(PixelOf("pic_media(5)", 120, 90), 0xFFFFFFU);
+  // The last frame stays: upright, and in its own proportions between bars.
+  const unsigned bar = PixelOf("pic_media(5)", 130, 135);
+  const std::tuple<int, int, unsigned> spots[] = {
+      {30, 5, bar}, {30, 15, 0xFF0000}, {130, 35, 0x00FF00}, {30, 125, 0x0000FF}};
+  for (const auto& [x, y, colour] : spots) EXPECT_EQ(PixelOf("pic_media(5)", x, y), colour) << y;
   ExpectOpen(true, "film.avi");
-  QTest::mouseClick(BarButton("play"), Qt::LeftButton);
-  EXPECT_TRUE(Plays()) << "again";
+  for (const char* button : {"play", "pause"}) Press(button);
+  QTest::qWait(400);
+  EXPECT_TRUE(Plays()) << "paused";
+  Press("play");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !Plays(); }, 10'000));
+  for (const char* button : {"play", "stop"}) Press(button);
+  QApplication::processEvents();
+  EXPECT_TRUE(!Plays() && BarButton("play")->isEnabled());
+  Press("play");
+  EXPECT_TRUE(Plays());
   Click("pic_media(5)");
   ExpectOpen(false, "film.avi");
 }
 
 TEST_F(MediaPaneTest, WordOptionsAndEndCloseARunningVideo) {
-  const std::pair<const char*, std::function<void()>> ways[] = {
-      {"word", [this] { ClickCell(2, 1); }},
-      {"options", [this] { ClickButton("cmd_glavni(5)"); }},
-      {"end", [this] { ClickButton("cmd_glavni(2)"); }}};
-  for (const auto& [name, close] : ways) {
-    SCOPED_TRACE(name);
+  for (const std::string way : {"pic_ukr", "cmd_glavni(5)", "cmd_glavni(2)"}) {
+    SCOPED_TRACE(way);
     if (frm_opcije->Visible()) ClickButton("cmd_opcije(0)");
     Show("film.avi", DataFile("film.avi"));
-    close();
+    way == "pic_ukr" ? ClickCell(2, 1) : ClickButton(way);
     ExpectOpen(false, "film.avi");
   }
 }

@@ -15,7 +15,7 @@ class OptionsDialogTest : public ProgramTest {
   }
 };
 
-TEST_F(OptionsDialogTest, ShowsTheStatisticsEachTimeAnew) {
+TEST_F(OptionsDialogTest, ShowsTheStatisticsEachTimeAnewAndIsLeftByItsButtonAlone) {
   for (int opening = 1; opening <= 2; ++opening) {
     std::string captions;
     for (int label = 4; label <= 10; ++label) captions += frm_opcije->Label1(label).Caption() + '|';
@@ -26,25 +26,19 @@ TEST_F(OptionsDialogTest, ShowsTheStatisticsEachTimeAnew) {
     EXPECT_EQ(frm_opcije->Label2.Caption(), "");
     ClickButton("cmd_opcije(4)");
     EXPECT_EQ(frm_opcije->Label2.Caption(), "0");
-    ClickButton("cmd_opcije(0)");
+    for (const char* form : {"frm_opcije", "frm_glavni"}) Widget(form)->close();
+    QTest::keyClick(Widget("frm_opcije"), Qt::Key_Escape);
+    EXPECT_TRUE(frm_opcije->Visible() && frm_glavni->Visible());
+    QTest::keyClick(Widget("cmd_opcije(0)"), Qt::Key_Return);
+    EXPECT_TRUE(!frm_opcije->Visible() && frm_glavni->Enabled());
     ClickButton("cmd_glavni(5)");
   }
 }
 
-TEST_F(OptionsDialogTest, IsLeftByItsButtonAlone) {
-  Widget("frm_opcije")->close();
-  Widget("frm_glavni")->close();
-  QTest::keyClick(Widget("frm_opcije"), Qt::Key_Escape);
-  EXPECT_TRUE(frm_opcije->Visible() && frm_glavni->Visible());
-  QTest::keyClick(Widget("cmd_opcije(0)"), Qt::Key_Return);
-  EXPECT_FALSE(frm_opcije->Visible());
-  EXPECT_TRUE(frm_glavni->Enabled());
-}
-
 TEST_F(OptionsDialogTest, AChoiceShowsWithTheNextButtonAndIsKeptAtTheEnd) {
   ClickButton("cmd_opcije(3)");
-  QTest::mouseClick(Widget("opt_opcije(0)"), Qt::LeftButton, {}, {8, 8});
-  QTest::mouseClick(Widget("opt_opcije1(1)"), Qt::LeftButton, {}, {8, 8});
+  for (const char* choice : {"opt_opcije(0)", "opt_opcije1(1)"})
+    QTest::mouseClick(Widget(choice), Qt::LeftButton, {}, {8, 8});
   const auto& box = frm_glavni->txt_rec(0);
   EXPECT_EQ(box.FontName() + ' ' + box.Text(), "Kalvon M") << "not yet";
   ClickButton("cmd_opcije(0)");

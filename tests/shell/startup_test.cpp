@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QPushButton>
-#include <cmath>
 #include <csignal>
 #include <map>
 
@@ -17,17 +16,16 @@ namespace {
 class StartupTest : public ProgramTest {};
 
 TEST_F(StartupTest, TheFirstCrosswordEnablesWhatNeedsOne) {
-  const char* const need_one[] = {
-      "cmd_glavni(1)", "cmd_glavni(3)", "cmd_glavni(4)", "cmd_glavni(5)", "pic_ukr",
-      "scr_hor",       "scr_ver",       "scr_tekst(0)",  "scr_tekst(1)",  "pic_tekst(0)",
-      "pic_tekst(1)",  "txt_rec(0)",    "txt_rec(14)"};
-  for (const char* control : need_one) EXPECT_FALSE(Widget(control)->isEnabled()) << control;
-  for (const char* control : {"cmd_glavni(0)", "cmd_glavni(2)", "cmd_glavni(6)"})
-    EXPECT_TRUE(Widget(control)->isEnabled()) << control;
-  EXPECT_NE(PixelOf("pic_ukr", 5, 5), 0xFFFFFFU) << "the title picture";
-  Load("proba.qvm");
-  for (const char* control : need_one) EXPECT_TRUE(Widget(control)->isEnabled()) << control;
-  EXPECT_EQ(PixelOf("pic_ukr", 5, 5), 0xFFFF7FU) << "the mark of the first word";
+  for (const bool loaded : {false, true}) {
+    if (loaded) Load("proba.qvm");
+    for (const char* control :
+         {"cmd_glavni(1)", "cmd_glavni(3)", "cmd_glavni(4)", "cmd_glavni(5)", "pic_ukr", "scr_hor",
+          "scr_ver", "scr_tekst(1)", "pic_tekst(1)", "txt_rec(14)"})
+      EXPECT_EQ(Widget(control)->isEnabled(), loaded) << control;
+    for (const char* control : {"cmd_glavni(0)", "cmd_glavni(2)", "cmd_glavni(6)"})
+      EXPECT_TRUE(Widget(control)->isEnabled()) << control;
+    EXPECT_NE(PixelOf("pic_ukr", 5, 5), 0xFFFFFFU) << "the title picture, or the first word's mark";
+  }
 }
 
 TEST_F(StartupTest, ButtonsSpeakSerbianAndTheLastInTheRowEndsTheProgram) {
@@ -44,12 +42,11 @@ TEST_F(StartupTest, ButtonsSpeakSerbianAndTheLastInTheRowEndsTheProgram) {
 }
 
 TEST_F(StartupTest, FormsAreCentredByTheSizeOfTheirSheets) {
-  const auto half = [](int twips) { return static_cast<int>(std::floor(twips / 2.0)); };
-  EXPECT_EQ(frm_glavni->Left(), half(toolkit::Screen::Width() - frm_glavni->Width()));
-  EXPECT_EQ(frm_ucit_snimi->Top(), half(toolkit::Screen::Height() - frm_ucit_snimi->Height()));
+  const int width = toolkit::Screen::Width(), height = toolkit::Screen::Height();
+  EXPECT_EQ(frm_glavni->Left(), (width - frm_glavni->Width()) >> 1);
+  EXPECT_EQ(frm_ucit_snimi->Top(), (height - frm_ucit_snimi->Height()) >> 1);
   // The options form is centred with its stored height, and grows afterwards.
-  const int stored = 5220 + 25 * 15;
-  EXPECT_EQ(frm_opcije->Top(), half(toolkit::Screen::Height() - stored));
+  EXPECT_EQ(frm_opcije->Top(), (height - 5220 - 25 * 15) >> 1);
   EXPECT_EQ(frm_opcije->Height(), 6915);
   EXPECT_EQ(frm_opcije->frm_opcije(0).Top(), 1455);
   EXPECT_EQ(frm_opcije->frm_opcije(1).Top(), 3405);
@@ -67,34 +64,33 @@ TEST_F(StartupTest, AFormHigherThanTheScreenGivesUpItsTitleBarAndKeepsItsSize) {
       form.Height(height);
       load.Raise(form);
     };
-    const int settled = height > screen ? height + 300 : height;
     frm_glavni->Show();
-    EXPECT_EQ(frm_glavni->Caption().empty(), height > screen);
-    EXPECT_EQ(frm_glavni->Height(), settled);
     Widget("frm_glavni")->resize(700, 300);
     QApplication::processEvents();
-    EXPECT_EQ(frm_glavni->Height(), settled);
+    EXPECT_EQ(frm_glavni->Caption().empty(), height > screen);
+    EXPECT_EQ(frm_glavni->Height(), height > screen ? height + 300 : height);
     EXPECT_EQ(Widget("frm_glavni")->width(), 640);
   }
 }
 
-TEST_F(StartupTest, ClosingTheMainFormEndsTheProgramWithoutASave) {
-  Load("proba.qvm");
-  const std::string before = ReadFile("proba.qvm");
-  ClickButton("cmd_glavni(3)");
-  Widget("frm_glavni")->close();
-  EXPECT_TRUE(toolkit::Ended());
-  EXPECT_EQ(ReadFile("proba.qvm"), before);
-  EXPECT_NE(ReadFile("m_kalvon_ini.txt"), "");
-}
-
-TEST_F(StartupTest, TheDesktopEndsTheProgramAsItsButtonDoes) {
+TEST_F(StartupTest, TheWindowAndTheDesktopEndTheProgramWithoutASave) {
   const toolkit::EndRequests end_requests;
-  ClickButton("cmd_glavni(0)");
-  ASSERT_EQ(std::raise(SIGTERM), 0);
-  EXPECT_FALSE(toolkit::Ended()) << "the event loop ends it, not the signal";
-  EXPECT_TRUE(QTest::qWaitFor([] { return toolkit::Ended(); }, 2000));
-  EXPECT_NE(ReadFile("m_kalvon_ini.txt"), "");
+  for (const bool by_desktop : {false, true}) {
+    Load("proba.qvm");
+    const std::string before = ReadFile("proba.qvm");
+    ClickButton("cmd_glavni(3)");
+    if (by_desktop) {
+      ClickButton("cmd_glavni(0)");
+      ASSERT_EQ(std::raise(SIGTERM), 0);
+      EXPECT_FALSE(toolkit::Ended()) << "the event loop ends it, not the signal";
+    } else {
+      Widget("frm_glavni")->close();
+    }
+    EXPECT_TRUE(QTest::qWaitFor([] { return toolkit::Ended(); }, 2000));
+    EXPECT_EQ(ReadFile("proba.qvm"), before);
+    EXPECT_TRUE(std::filesystem::remove(folder() / "m_kalvon_ini.txt"));
+    Restart();
+  }
 }
 
 }  // namespace

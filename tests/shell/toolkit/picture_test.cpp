@@ -14,44 +14,38 @@ namespace {
 
 using kalvon::testing::DataFile;
 
-class PictureTest : public ::testing::Test {
- protected:
-  Picture Load(const std::string& bytes) {
-    folder_.Put("Slika.bmp", bytes);
-    return LoadPicture(folder_.Logic("slika.BMP"));
-  }
-  int ErrorOf(const std::string& bytes) {
-    return files::pass_over([&] { Load(bytes); });
-  }
+Picture Load(const std::string& bytes) {
+  const ScratchFolder folder;
+  folder.Put("slika.bmp", bytes);
+  return LoadPicture(folder.Logic("slika.bmp"));
+}
 
- private:
-  ScratchFolder folder_;
-};
+void ExpectRefused(const std::string& bytes) {
+  EXPECT_EQ(files::pass_over([&] { Load(bytes); }), files::error::invalid_picture) << bytes.size();
+}
 
-TEST_F(PictureTest, ReadsEveryKindOfBitmapIfItIsWhole) {
+TEST(PictureTest, ReadsEveryKindOfBitmapIfItIsWhole) {
   constexpr unsigned colours[] = {0xFF0000, 0x0000FF, 0x00FF00, 0xFFFFFF};
   for (const std::string kind : {"1", "1_os2", "4", "4_runs", "8", "8_os2", "8_runs", "8_top_down",
                                  "16", "16_masks", "24", "24_os2", "24_top_down", "32"}) {
     SCOPED_TRACE(kind);
     const std::string bytes = DataFile("bitmaps/" + kind + ".bmp");
-    const Picture picture = Load(bytes);
-    const QImage& image = picture.image();
+    const QImage image = Load(bytes).image();
     ASSERT_EQ(image.size(), QSize(5, 3));
     const int in_use = kind.starts_with("1") && !kind.starts_with("16") ? 2 : 4;
     for (int y = 0; y < 3; ++y)
       for (int x = 0; x < 5; ++x)
         EXPECT_EQ(image.pixel(x, y) & 0xFFFFFF, colours[(x + 2 * y) % in_use]) << x << ", " << y;
-    for (const std::size_t size : {std::size_t{0}, std::size_t{30}, bytes.size() - 1})
-      EXPECT_EQ(ErrorOf(bytes.substr(0, size)), files::error::invalid_picture) << size;
+    for (const auto size : {0UL, 30UL, bytes.size() - 1}) ExpectRefused(bytes.substr(0, size));
   }
 }
 
-TEST_F(PictureTest, RefusesWhatIsNoBitmapOrWouldFillTheMemory) {
-  EXPECT_EQ(ErrorOf("GIF89a" + std::string(100, '\0')), files::error::invalid_picture);
+TEST(PictureTest, RefusesWhatIsNoBitmapOrWouldFillTheMemory) {
+  ExpectRefused("GIF89a" + std::string(100, '\0'));
   for (const std::size_t side_at : {18U, 22U}) {
     std::string runs = DataFile("bitmaps/8_runs.bmp");
     runs.replace(side_at, 2, "\x88\x13");  // 5000 pixels.
-    EXPECT_EQ(ErrorOf(runs), files::error::invalid_picture);
+    ExpectRefused(runs);
   }
   EXPECT_EQ(files::pass_over([] { LoadPicture("c:\\nema.bmp"); }), files::error::file_not_found);
 }
