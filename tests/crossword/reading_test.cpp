@@ -118,8 +118,6 @@ TEST_F(Reading, RefusesWhatIsNoCrossword) {
   EXPECT_THROW(Read("none.qvm"), files::RuntimeError);
   Put({{"zima1001.qvm", Lines(HeaderLines(60, 60))}, {"zima1999.qvm", ""}});
   EXPECT_THROW(Read("zima1001.qvm"), files::RuntimeError) << "too many cells in all";
-  Put({{"bad.qvm", Lines(HeaderLines(127, 129)) + cells}});
-  EXPECT_EQ(Read("bad.qvm").broj_pitanja, 1) << "the largest there is";
 }
 
 TEST_F(Reading, FindsThePlaceOfAClue) {

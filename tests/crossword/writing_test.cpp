@@ -35,12 +35,12 @@ TEST_F(Writing, LeavesHeaderAndFieldsAsTheyStandAndAShortFileShort) {
   lines[10] = "?1,2,$,$$$a,b$,";
   EXPECT_EQ(folder.Get("free.qvm"), Lines(lines));
 
-  const std::string head = Lines(HeaderLines(3, 2)) + "D$0$1$0$00\r\n010$$$$A1$$\r\n";
-  Put({{"short.qvm", head + "A$0$0$0$00\r\n\r\n"}});
+  const std::string head = Lines(HeaderLines(3, 2)) + "D$0$1$0$00\r\n010$$$$A1$$\r\nA";
+  Put({{"short.qvm", head + "$0$0$0$00\r\n\r\n"}});
   Crossword read = Read("short.qvm");
   Enter(read, 2, 1, 'X');
   WriteCrossword(read);
-  EXPECT_EQ(folder.Get("short.qvm"), head + "AX$0$0$0$00\r\n\r\n");
+  EXPECT_EQ(folder.Get("short.qvm"), head + "X$0$0$0$00\r\n\r\n");
 }
 
 TEST_F(Writing, GivesEachInstallmentItsOwnCells) {
