@@ -28,6 +28,7 @@ void ForgetOldCrossword() {
   glavni.rec_x1 = glavni.rec_y1 = glavni.rec_x2 = glavni.rec_y2 = 0;
   glavni.klik_x = glavni.klik_y = 0;
   glavni.pret_x1 = glavni.pret_y1 = glavni.pret_x2 = glavni.pret_y2 = 0;
+  glavni.sel_broj = 0;
   glavni.media_temp.clear();
   glavni.rec_tekst.clear();
   glavni.media_gotovo = 0;

@@ -13,7 +13,8 @@ struct Drive {
   std::string row;
 };
 
-/// The drives that there are now, `c:` first.
+/// The drives that there are now, `c:` first, then in the order of the folders where they are
+/// mounted.
 std::vector<Drive> Drives();
 
 /// Lets another file stand for the host's table of mounted media.

@@ -88,9 +88,9 @@ std::string LogicPath(std::string_view host_path) {
   }
   const std::vector<Drive> drives = Drives();
   const Drive* nearest = &drives.front();
+  // What is mounted in another drive comes after it.
   for (const Drive& drive : drives) {
-    const bool holds = (plain + '/').starts_with(drive.mounted_at + '/');
-    if (holds && drive.mounted_at.size() > nearest->mounted_at.size()) nearest = &drive;
+    if ((plain + '/').starts_with(drive.mounted_at + '/')) nearest = &drive;
   }
   return PathOnDrive(nearest->letter, nearest->mounted_at, plain);
 }

@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include "crossword/cell.h"
 #include "crossword/crossword.h"
-#include "crossword/fields.h"
 #include "crossword/header.h"
 #include "crossword/installments.h"
 #include "support/crossword_text.h"
 
 namespace kalvon::testing {
-namespace {
 
 TEST(Cell, CarriesTheUsersLetterBehindTheSolution) {
   using Row = std::array<const char*, 4>;
@@ -92,12 +89,4 @@ TEST(Header, TellsSizeAndJoin) {
   }
 }
 
-TEST(Number, IsReadAsFarAsItGoes) {
-  const std::pair<const char*, int> rows[] = {
-      {"", 0},    {"  7 ", 7}, {"005", 5}, {"3x", 3},  {"x3", 0},
-      {"-4", -4}, {"+4", 4},   {"--4", 0}, {"0.9", 0}, {"99999999999", INT_MAX}};
-  for (const auto& [text, value] : rows) EXPECT_EQ(DecimalValue(text), value) << text;
-}
-
-}  // namespace
 }  // namespace kalvon::testing

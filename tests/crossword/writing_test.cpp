@@ -4,14 +4,12 @@
 #include "crossword/crossword_folder.h"
 
 namespace kalvon::testing {
-namespace {
 
 class Writing : public CrosswordFolder {};
 
 TEST_F(Writing, ChangesNothingButTheTypedLetters) {
   CrosswordText text{.rows = {"MIR", "A#A", "KIT"},
                      .clues = {{"A1", "\xC6uti, \xE6uti"}},
-                     .borders = {{{2, 1}, "12"}},
                      .media_table = "/kit.bmp/1078"};
   const Files before = {{"Zima 1.QVM", Qvm(text)}};
   Put(before);
@@ -46,8 +44,8 @@ TEST_F(Writing, LeavesHeaderAndFieldsAsTheyStandAndAShortFileShort) {
 TEST_F(Writing, GivesEachInstallmentItsOwnCells) {
   for (const auto& marks : {std::array{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 0, 0}}) {
     SCOPED_TRACE(::testing::PrintToString(marks));
-    CrosswordText second{.rows = {"DAN", "O#A"}, .marks = marks, .number = 2};
-    CrosswordText fourth{.rows = {"REP", "E#A"}, .marks = marks, .number = 4};
+    CrosswordText second{.rows = {"DAN", "O#A"}, .marks = marks};
+    CrosswordText fourth{.rows = {"REP", "E#A"}, .marks = marks};
     Put({{"zima1002.qvm", Qvm(second)}, {"zima1004.qvm", Qvm(fourth)}});
     Crossword read = Read("zima1002.qvm");
     const bool beside = marks[0] == 1;
@@ -107,5 +105,4 @@ TEST_F(Writing, WritesNoCrosswordWithoutAClue) {
   EXPECT_EQ(All(), before);
 }
 
-}  // namespace
 }  // namespace kalvon::testing

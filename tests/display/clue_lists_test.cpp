@@ -2,7 +2,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class ClueLists : public PuzzleTest {
  protected:
@@ -100,7 +99,7 @@ TEST_F(ClueLists, ScrollingBringsTheClueOfTheBarToTheHead) {
 TEST_F(ClueLists, ListWithoutAClueBehindTheFirstShowsItsLast) {
   // The view opens on the second installment, which holds no further word down.
   CrosswordText first{.rows = std::vector<std::string>(15, "###"), .marks = {0, 1}};
-  CrosswordText second{.rows = first.rows, .marks = {0, 1}, .number = 2};
+  CrosswordText second{.rows = first.rows, .marks = {0, 1}};
   first.rows[0] = second.rows[14] = "ABC";
   first.rows[1] = "D#E";
   WriteFile("proba001.qvm", Qvm(first));
@@ -115,6 +114,8 @@ TEST_F(ClueLists, ListWithoutAClueBehindTheFirstShowsItsLast) {
 }
 
 TEST_F(ClueLists, SideWithoutCluesStaysEmpty) {
+  Solve({.rows = {"ABC", "D#E"}});
+  ClickClue(2, 2);                  // Its bar goes with its crossword.
   Solve({.rows = {"A#B", "C#D"}});  // No word across, and so no word is selected.
   EXPECT_TRUE(Page(1).empty());
   EXPECT_EQ(glavni.rec_tekst, "");
@@ -127,5 +128,4 @@ TEST_F(ClueLists, SideWithoutCluesStaysEmpty) {
   ExpectScreenOfState();
 }
 
-}  // namespace
 }  // namespace kalvon::testing

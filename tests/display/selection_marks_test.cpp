@@ -2,7 +2,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 using SelectionMarks = PuzzleTest;
 
@@ -57,5 +56,4 @@ TEST_F(SelectionMarks, ViewMovesOnlyAsFarAsTheClueNeeds) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -7,7 +7,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class CrosswordLoad : public ProgramTest {
  protected:
@@ -98,5 +97,4 @@ TEST_F(CrosswordLoad, DrawsTheProgressBarInColumns) {
   EXPECT_EQ(drawn[1], 0xC0C0C0U);
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -6,7 +6,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class MediaPack : public ProgramTest {
  protected:
@@ -59,5 +58,4 @@ TEST_F(MediaPack, TouchesNoFileButTheMedium) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

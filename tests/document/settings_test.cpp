@@ -11,7 +11,6 @@
 #include "support/program_test.h"
 
 namespace kalvon {
-namespace {
 
 using testing::Lines;
 
@@ -73,5 +72,4 @@ TEST_F(Settings, HaveDefaultsForWhatCannotBeRead) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon

@@ -82,13 +82,6 @@ TEST_F(TextFileTest, DividesLinesAtCrLfOnly) {
   EXPECT_EQ(whole, 70'000);
 }
 
-TEST_F(TextFileTest, EndsALoopThatPassesOverAnEndlessLine) {
-  folder_.Put("zima.qvm", std::string(std::size_t{17} << 20, 'x'));
-  TextReader reader(zima_);
-  EXPECT_EQ(pass_over([&] { reader.Line(); }), 14);
-  EXPECT_EQ(pass_over([&] { reader.Line(); }), 62);
-}
-
 TEST_F(TextFileTest, KeepsNamePermissionsAndLinksOfWhatItRewrites) {
   fs::create_directory(folder_.Host("prava"));
   const std::string file = folder_.Host("prava/Leto.QVM");

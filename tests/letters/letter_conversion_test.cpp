@@ -7,7 +7,6 @@
 #include <string>
 
 namespace kalvon::testing {
-namespace {
 
 constexpr Writing latin_ascii{};
 constexpr Writing latin_page{.code_page = true};
@@ -15,57 +14,42 @@ constexpr Writing cyrillic_ascii{.latin = false};
 constexpr Writing cyrillic_page{.latin = false, .code_page = true};
 constexpr Writing english{.english = true};
 
-/// A letter and its bytes: what types it under YU ASCII, and both cases in Windows-1250 and in
-/// Windows-1251. A digraph has no byte in the Latin page; its stored form types it there.
-struct Letter {
-  char stored;
-  const char* keys;
-  const char* latin;
-  const char* cyrillic;
-};
-
-// clang-format off
-const Letter letters[] = {
-    {'A', "a", "Aa", "\xC0\xE0"},        {'B', "b", "Bb", "\xC1\xE1"},
-    {'V', "v", "Vv", "\xC2\xE2"},        {'G', "g", "Gg", "\xC3\xE3"},
-    {'D', "d", "Dd", "\xC4\xE4"},        {'\\', "|\\", "\xD0\xF0", "\x80\x90"},
-    {'E', "e", "Ee", "\xC5\xE5"},        {'@', "`", "\x8E\x9E", "\xC6\xE6"},
-    {'Z', "z", "Zz", "\xC7\xE7"},        {'I', "i", "Ii", "\xC8\xE8"},
-    {'J', "j", "Jj", "\xA3\xBC"},        {'K', "k", "Kk", "\xCA\xEA"},
-    {'L', "l", "Ll", "\xCB\xEB"},        {'Q', "q", "Qq", "\x8A\x9A"},
-    {'M', "m", "Mm", "\xCC\xEC"},        {'N', "n", "Nn", "\xCD\xED"},
-    {'W', "w", "Ww", "\x8C\x9C"},        {'O', "o", "Oo", "\xCE\xEE"},
-    {'P', "p", "Pp", "\xCF\xEF"},        {'R', "r", "Rr", "\xD0\xF0"},
-    {'S', "s", "Ss", "\xD1\xF1"},        {'T', "t", "Tt", "\xD2\xF2"},
-    {']', "}]", "\xC6\xE6", "\x8E\x9E"}, {'U', "u", "Uu", "\xD3\xF3"},
-    {'F', "f", "Ff", "\xD4\xF4"},        {'H', "h", "Hh", "\xD5\xF5"},
-    {'C', "c", "Cc", "\xD6\xF6"},        {'^', "~", "\xC8\xE8", "\xD7\xF7"},
-    {'X', "x", "Xx", "\x8F\x9F"},        {'[', "{[", "\x8A\x9A", "\xD8\xF8"},
-};
-// clang-format on
+// The 30 letters in their order: stored, and as capitals and small letters of the two code pages.
+// The Latin one holds no digraphs; there their stored forms type them.
+constexpr std::string_view stored = "ABVGD\\E@ZIJKLQMNWOPRST]UFHC^X[";
+constexpr std::string_view latin_capital = "ABVGD\xD0\x45\x8EZIJKLQMNWOPRST\xC6UFHC\xC8X\x8A";
+constexpr std::string_view latin_small = "abvgd\xF0\x65\x9Ezijklqmnwoprst\xE6ufhc\xE8x\x9A";
+constexpr std::string_view cyrillic_capital =
+    "\xC0\xC1\xC2\xC3\xC4\x80\xC5\xC6\xC7\xC8\xA3\xCA\xCB\x8A\xCC\xCD\x8C\xCE\xCF\xD0\xD1\xD2\x8E"
+    "\xD3\xD4\xD5\xD6\xD7\x8F\xD8";
+constexpr std::string_view cyrillic_small =
+    "\xE0\xE1\xE2\xE3\xE4\x90\xE5\xE6\xE7\xE8\xBC\xEA\xEB\x9A\xEC\xED\x9C\xEE\xEF\xF0\xF1\xF2\x9E"
+    "\xF3\xF4\xF5\xF6\xF7\x9F\xF8";
+// What types them under YU ASCII; of the signs also those that the same keys give without Shift.
+constexpr std::string_view keys = "abvgd|e`zijklqmnwoprst}ufhc~x{";
+constexpr std::string_view more_keys = "     \\                ]      [";
 
 const std::map<char, std::string> digraphs = {{'Q', "Lj"}, {'W', "Nj"}, {'X', "D`"}};
 
-/// The letter of which a text of its row holds the character, or 0.
-char StoredOf(char character, const char* Letter::*text) {
-  for (const Letter& letter : letters)
-    if (std::string(letter.*text).find(character) != std::string::npos) return letter.stored;
-  return 0;
+/// The letter at whose place one of two texts holds the character, or 0.
+static char StoredOf(char character, std::string_view one, std::string_view other) {
+  const std::size_t place = std::min(one.find(character), other.find(character));
+  return character != ' ' && place < stored.size() ? stored[place] : '\0';
 }
 
 TEST(LetterConversion, TypesEachLetterInEveryScriptAndLayout) {
   for (int code = 0; code < 256; ++code) {
     SCOPED_TRACE(code);
     const char key = static_cast<char>(code);
-    const auto expect = [&](const Writing& writing, const char* Letter::*keys) {
+    const auto expect = [&](const Writing& writing, std::string_view one, std::string_view other) {
       const TypedLetter typed = LetterOfKey(code, writing);
-      EXPECT_EQ(typed.stored, StoredOf(key, keys));
+      EXPECT_EQ(typed.stored, StoredOf(key, one, other));
       EXPECT_EQ(typed.shown, typed.stored == 0 ? "" : ShownLetter(typed.stored, writing));
     };
-    expect(latin_ascii, &Letter::keys);
-    expect(cyrillic_ascii, &Letter::keys);
-    expect(latin_page, &Letter::latin);
-    expect(cyrillic_page, &Letter::cyrillic);
+    expect(latin_ascii, keys, more_keys);
+    expect(cyrillic_ascii, keys, more_keys);
+    expect(latin_page, latin_capital, latin_small);
+    expect(cyrillic_page, cyrillic_capital, cyrillic_small);
     const bool is_letter = key >= 'a' && key <= 'z';
     EXPECT_EQ(LetterOfKey(code, english).stored, is_letter ? key - 'a' + 'A' : 0);
   }
@@ -73,18 +57,18 @@ TEST(LetterConversion, TypesEachLetterInEveryScriptAndLayout) {
 }
 
 TEST(LetterConversion, ShowsEachLetterInEveryScriptAndLayout) {
-  for (const Letter& letter : letters) {
-    SCOPED_TRACE(letter.stored);
-    const std::string stored(1, letter.stored);
-    const auto digraph = digraphs.find(letter.stored);
+  for (std::size_t i = 0; i < stored.size(); ++i) {
+    SCOPED_TRACE(stored[i]);
+    const std::string own(1, stored[i]);
+    const auto digraph = digraphs.find(stored[i]);
     const bool whole = digraph == digraphs.end();
-    EXPECT_EQ(ShownLetter(letter.stored, english), stored);
-    EXPECT_EQ(ShownLetter(letter.stored, cyrillic_ascii), stored);
-    EXPECT_EQ(ShownLetter(letter.stored, cyrillic_page), std::string(1, letter.cyrillic[0]));
-    EXPECT_EQ(ShownLetter(letter.stored, latin_ascii), whole ? stored : digraph->second);
-    EXPECT_EQ(ShownLetter(letter.stored, latin_page), whole ? std::string(1, letter.latin[0])
-                                                      : letter.stored == 'X' ? "D\x9E"
-                                                                             : digraph->second);
+    for (const Writing& writing : {english, cyrillic_ascii})
+      EXPECT_EQ(ShownLetter(stored[i], writing), own);
+    EXPECT_EQ(ShownLetter(stored[i], cyrillic_page), cyrillic_capital.substr(i, 1));
+    EXPECT_EQ(ShownLetter(stored[i], latin_ascii), whole ? own : digraph->second);
+    EXPECT_EQ(ShownLetter(stored[i], latin_page), whole           ? latin_capital.substr(i, 1)
+                                                  : own[0] == 'X' ? "D\x9E"
+                                                                  : digraph->second);
   }
 }
 
@@ -96,8 +80,7 @@ TEST(LetterConversion, ShowsTexts) {
   EXPECT_EQ(ShownClue("quay x{", english), "QUAY X{");
   EXPECT_EQ(ShownText("Najve}i Qudi, wive i xep", latin_page), "Najve}i Ljudi, njive i d`ep");
   EXPECT_EQ(ShownText("Qudi", cyrillic_page), "Qudi");
-  EXPECT_EQ(azbuka(false), "ABVGD\\E@ZIJKLQMNWOPRST]UFHC^X[");
+  EXPECT_EQ(azbuka(false), stored);
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -11,7 +11,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 /// The pane, opened on files that lie in the program's folder as if a pack had given them.
 class MediaPaneTest : public ProgramTest {
@@ -171,5 +170,4 @@ TEST_F(MediaPaneTest, WordOptionsAndEndCloseARunningVideo) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -8,7 +8,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class BrowserLinkTest : public ProgramTest {
  protected:
@@ -60,5 +59,4 @@ TEST_F(BrowserLinkTest, TheRegistryGivesShortPlainStringsOnly) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

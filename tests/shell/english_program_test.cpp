@@ -9,7 +9,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class EnglishProgramTest : public ProgramTest {
  protected:
@@ -59,7 +58,7 @@ TEST_F(EnglishProgramTest, InstallmentsAreNotDescribedAndAListOfOneClueShowsIt) 
   rows[0] = "ABC";
   WriteFile("proba001.qvm", Qvm({.rows = rows, .marks = {0, 1}}));
   rows[0] = rows[1] = "A##";
-  WriteFile("proba002.qvm", Qvm({.rows = rows, .marks = {0, 1}, .number = 2}));
+  WriteFile("proba002.qvm", Qvm({.rows = rows, .marks = {0, 1}}));
   Choose("proba002.qvm");
   EXPECT_EQ(frm_ucit_snimi->Caption() + frm_ucit_snimi->cmd_ucit(1).Caption(),
             "Load crosswordCANCEL");
@@ -95,5 +94,4 @@ TEST_F(EnglishProgramTest, HelpLiesOverTheGridUntilItIsClosed) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -11,7 +11,6 @@
 #include "support/program_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class StartupTest : public ProgramTest {};
 
@@ -93,5 +92,4 @@ TEST_F(StartupTest, TheWindowAndTheDesktopEndTheProgramWithoutASave) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -3,7 +3,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 using PuzzleCommands = PuzzleTest;
 using Grid = std::vector<std::string>;
@@ -62,5 +61,4 @@ TEST_F(PuzzleCommands, WorkOnTheWholePuzzle) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -2,7 +2,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 using WordEditor = PuzzleTest;
 
@@ -76,5 +75,4 @@ TEST_F(WordEditor, EditsOnlyTheBoxesOfALongWord) {
   EXPECT_EQ(Letters()[0], "BBBBBBBBBBBBBBMBBC");
 }
 
-}  // namespace
 }  // namespace kalvon::testing

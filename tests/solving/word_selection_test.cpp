@@ -4,7 +4,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 class WordSelection : public PuzzleTest {
  protected:
@@ -106,5 +105,4 @@ TEST_F(WordSelection, KeepsTheOldWordWhenAClueHasNone) {
   }
 }
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -44,7 +44,6 @@ std::string Qvm(const CrosswordText& text) {
   const int width = static_cast<int>(rows.at(0).size());
   std::vector<std::string> lines = HeaderLines(width, height, text.marks);
   lines[0] = text.media_table;
-  lines[4] = "Nastavak broj: " + std::to_string(text.number);
   int starts = 0;
   const auto clue = [&](char direction) {
     const auto name = direction + std::to_string(starts);
@@ -60,12 +59,11 @@ std::string Qvm(const CrosswordText& text) {
       const bool down = starts_word(0, 1);
       std::string cell = At(rows, x, y) == '#' ? "$1$" : "";
       if (HoldsLetter(rows, x, y)) {
-        const auto border = text.borders.find({x, y});
         cell = At(rows, x, y);
         if (At(text.letters, x, y) != ' ') cell += At(text.letters, x, y);
         cell += across ? "$0$1$" : "$0$0$";
         cell += down ? "1$" : "0$";
-        cell += border == text.borders.end() ? "00" : border->second;
+        cell += "00";
       }
       std::string attributes;
       if (across || down) {

@@ -20,10 +20,7 @@ struct CrosswordText {
   /// Clues by their names: "A1" across, "D1" down from the first cell, row by row, that starts a
   /// word. Others say their names.
   std::map<std::string, std::string> clues = {};
-  /// The two digits of broken borders, by the column and row of the cell; the others have "00".
-  std::map<std::pair<int, int>, std::string> borders = {};
   std::string media_table = {};
-  int number = 1;
 };
 
 /// The bytes of its `.qvm` file.

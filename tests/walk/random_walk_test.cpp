@@ -9,7 +9,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 enum Place { main_form, help, dialog, options };
 /// What an event does to letters that were typed but not entered.
@@ -156,5 +155,4 @@ TEST_P(RandomWalk, KeepsEverythingInForm) {
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, ::testing::Range(1U, 7U),
                          ::testing::PrintToStringParamName());
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -6,7 +6,6 @@
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
-namespace {
 
 struct Sample {
   const char* file;
@@ -63,5 +62,4 @@ INSTANTIATE_TEST_SUITE_P(All, Samples,
                                            Sample{"leto1003.qvm", 0, 0},
                                            Sample{"equinox.qvm", 1, 0}));
 
-}  // namespace
 }  // namespace kalvon::testing

@@ -84,10 +84,10 @@ QString NationalShown(char character, char next, TextCode code) {
   return small ? shown.toLower() : shown;
 }
 
+/// The character is none of ASCII, so that no first letter of a digraph is taken for it.
 int EncodeNational(char32_t character, TextCode code) {
   for (const NationalLetter& letter : national_letters) {
     const bool latin = code == TextCode::national_latin;
-    if (latin && letter.latin.size() > 1) continue;  // No key types a whole digraph.
     const char32_t capital = latin ? letter.latin.front().unicode() : letter.cyrillic;
     if (character == capital) return letter.code;
     if (character == QChar::toLower(capital)) return letter.code + small_letter;

@@ -10,7 +10,6 @@
 #include "shell/toolkit/events/program_end.h"
 
 namespace toolkit::testing {
-namespace {
 
 class ControlsTest : public ::testing::Test {
  protected:
@@ -57,5 +56,4 @@ TEST_F(ControlsTest, ADisabledFormLooksAsBeforeAndTakesNoInputAndNothingDoesAfte
   Restart();
 }
 
-}  // namespace
 }  // namespace toolkit::testing

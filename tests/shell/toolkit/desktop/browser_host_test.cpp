@@ -11,7 +11,6 @@
 #include "files/scratch_folder.h"
 
 namespace toolkit {
-namespace {
 
 namespace fs = std::filesystem;
 using files::pass_over;
@@ -66,5 +65,4 @@ TEST_F(BrowserHostTest, OpensAPageByItsRealPathAndNeedsNoShell) {
     EXPECT_EQ(pass_over([&] { host_.Start(command); }), files::error::file_not_found) << command;
 }
 
-}  // namespace
 }  // namespace toolkit

@@ -13,7 +13,6 @@
 #include "shell/toolkit/windows/form.h"
 
 namespace toolkit::testing {
-namespace {
 
 using files::pass_over;
 
@@ -119,5 +118,4 @@ TEST_F(FileListsTest, SelectsFilesByCodeMouseAndKey) {
   EXPECT_EQ(file_list.ListIndex(), -1) << "a folder that is read anew has no row selected";
 }
 
-}  // namespace
 }  // namespace toolkit::testing

@@ -7,7 +7,6 @@
 #include "shell/toolkit/drawing/surface_p.h"
 
 namespace toolkit::testing {
-namespace {
 
 class PictureBoxTest : public ::testing::Test {
  protected:
@@ -51,5 +50,4 @@ TEST_F(PictureBoxTest, WhatIsDrawnReachesTheScreen) {
   EXPECT_EQ(Drawn().pixelColor(58, 48), QColor(0xC0C0C0));
 }
 
-}  // namespace
 }  // namespace toolkit::testing

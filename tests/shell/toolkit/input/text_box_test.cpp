@@ -8,7 +8,6 @@
 #include "shell/toolkit/control_form.h"
 
 namespace toolkit::testing {
-namespace {
 
 class TextBoxTest : public ::testing::Test {
  protected:
@@ -75,5 +74,4 @@ TEST_F(TextBoxTest, ShowsAndTakesCharactersInTheCodeOfItsFont) {
   EXPECT_EQ(field->text().toStdString(), "X= 15 Ljdž");
 }
 
-}  // namespace
 }  // namespace toolkit::testing
