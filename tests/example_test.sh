@@ -1,9 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs the example of the architecture on a copy of a crossword: it prints the clues and writes one
-# letter.
-#
-#     example_test.sh EXAMPLE CROSSWORD
+# example_test.sh EXAMPLE CROSSWORD: on a copy of it, the example prints the clues and adds a letter.
 set -euo pipefail
 scratch=$(mktemp --directory)
 trap 'rm -r "$scratch"' EXIT

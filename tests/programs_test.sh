@@ -1,8 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Starts both programs and ends them as the desktop does. Without a crossword, what they leave tells
-# their language: the English one keeps the script that the Serbian one does not start with.
-#     programs_test.sh PROGRAM_FOLDER
+# programs_test.sh PROGRAM_FOLDER: each program, ended by the desktop, leaves its own script behind.
 set -eu
 programs=$1
 folder=$(mktemp -d)

@@ -52,11 +52,9 @@ TEST_F(MediaTable, CutsOutToTheByteAroundEveryMultipleOfAThousand) {
       EXPECT_TRUE(Cut(table, "f" + std::to_string(i) + ".txt", pack) == contents[i]) << size << i;
   }
   // With less padding than three bytes, or none, it must be the last one.
-  for (const std::size_t size : {998U, 1000U}) {
-    const std::string last = Content(size);
-    const std::string pack = "prva." + std::string(995, '0') + last;
-    EXPECT_TRUE(Cut("/a.txt/5/b.txt/" + std::to_string(size), "b.txt", pack) == last) << size;
-  }
+  for (const std::size_t size : {998U, 1000U})
+    EXPECT_EQ(Cut("/a.txt/5/b.txt/998", "b.txt", "prva." + std::string(995, '0') + Content(size)),
+              Content(size).substr(0, 998));
 }
 
 TEST_F(MediaTable, MeetsTablesAndPacksThatDoNotFit) {
@@ -68,20 +66,15 @@ TEST_F(MediaTable, MeetsTablesAndPacksThatDoNotFit) {
   const Row rows[] = {
       {"/kit.txt/1078/grad.txt/200", "kit.txt", kit},
       {"Paket/kit.txt/ 1078 /grad.txt/ 200 /", "grad.txt", grad},
-      {"/kit.txt/1078", "grad.txt", "none"},
       {"/KIT.TXT/1078", "kit.txt", "none"},
       {"/kit.txt/mnogo/grad.txt/200", "kit.txt", ""},
       {"/kit.txt/-1500/grad.txt/3", "grad.txt", "kkk"},
       {"/kit.txt/1078/grad.txt/5000", "grad.txt", grad},
       {"/kit.txt/1078/grad.txt/" + huge, "grad.txt", grad},
       {"/kit.txt/" + huge + "/grad.txt/200", "grad.txt", ""},
-      {"/kit.txt/90000/grad.txt/200", "grad.txt", ""},
       {"/grad.txt.txt/1078/grad.txt/200", "grad.txt", kit},
   };
   for (const auto& [table, medium, cut] : rows) EXPECT_EQ(Cut(table, medium, pack), cut) << table;
-  EXPECT_THROW(CutOut(folder.Logic("nema.qvd"), {0, 3}, folder.Logic("cut.txt")),
-               files::RuntimeError);
-  EXPECT_EQ(folder.Get("cut.txt"), "") << "an empty file";
 }
 
 TEST_F(MediaTable, FollowsNoLinkAndNamesNoOtherFile) {

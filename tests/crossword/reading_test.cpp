@@ -2,7 +2,6 @@
 #include "crossword/reading.h"
 
 #include "crossword/crossword_folder.h"
-#include "crossword/numbering.h"
 
 namespace kalvon::testing {
 
@@ -104,18 +103,6 @@ TEST_F(Reading, RefusesWhatIsNoCrossword) {
   EXPECT_THROW(Read("none.qvm"), files::RuntimeError);
   Put({{"zima1001.qvm", Lines(HeaderLines(60, 60))}, {"zima1999.qvm", ""}});
   EXPECT_THROW(Read("zima1001.qvm"), files::RuntimeError) << "too many cells in all";
-}
-
-TEST_F(Reading, FindsThePlaceOfAClue) {
-  Put({{"mreza.qvm", Qvm({"MIR", "A#A", "KIT"})}});
-  const Crossword read = Read("mreza.qvm");
-  for (const auto& [n, across, down] : {std::array{1, 1, 1}, {2, 2, 2}, {3, 2, 3}}) {
-    EXPECT_EQ(PlaceOfClue(read, n).across, across) << n;
-    EXPECT_EQ(PlaceOfClue(read, n).down, down) << n;
-  }
-  EXPECT_EQ(ClueAtPlace(read, 2, 1) * 10 + ClueAtPlace(read, 2, 2), 32);
-  EXPECT_EQ(ClueAtPlace(read, 3, 2), 0);
-  EXPECT_THROW(PlaceOfClue(read, 250000), files::RuntimeError);
 }
 
 }  // namespace kalvon::testing

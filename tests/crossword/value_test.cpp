@@ -54,7 +54,6 @@ TEST(Installments, AreFoundByTheNameOfTheChosenFile) {
   for (const auto& [name, base, digits, chosen, last] :
        {Row{"zima1002.qvm", "zima1", 3, 2, 5},  // Other capitals, another base.
         {"zima1005.x.qvm", "zima1", 3, 5, 5},
-        {"leto1000.qvm", "leto1", 3, 0, 0},
         {"kviz008.qvm", "kviz", 3, 8, 0},
         {"zima12.qvm", "zima12", 2, 1, 1},
         {".qvm", "", 0, 1, 1}}) {
@@ -82,7 +81,6 @@ TEST(Header, TellsSizeAndJoin) {
   for (const auto& [line, width, height] : {Size{"Dimenzije:X= 15 Y=  4", 15, 4},
                                             {"D:ab7  999", 7, 999},
                                             {"D:X=-15 Y= -1", -15, -1},
-                                            {"no colon  15", 0, 15},
                                             {"D:X", 0, 0}}) {
     const auto [found_width, found_height] = DimensionsOf({"", "", line});
     EXPECT_EQ(std::pair(found_width, found_height), std::pair(width, height)) << line;

@@ -84,17 +84,11 @@ TEST_F(CrosswordLoad, DrawsTheProgressBarInColumns) {
   rows.front().replace(0, 2, "DA");
   WriteFile("big.qvm", Qvm(rows));
   Choose("big.qvm");
-  unsigned drawn[2] = {};
-  // The bar is wiped when the dialog closes, so it is looked at when the view is set.
-  frm_glavni->scr_tekst(0).Change = [&] {
-    for (const int x : {0, 1}) drawn[x] = PixelOf("pic_status", x, 10);
-  };
+  // The bar is wiped when the dialog closes, so it is looked at when a list is set.
+  frm_glavni->scr_tekst(0).Change = [&] { EXPECT_EQ(PixelOf("pic_status", 1, 10), 0xC0C0C0U); };
   ClickButton("cmd_ucit(0)");
   EXPECT_EQ(glavni.napredak_korak, 3);
-  constexpr int columns = (2 * 15 * 15 + 9) / 3;
-  EXPECT_EQ(glavni.napredak_x, columns);
-  EXPECT_EQ(drawn[0], 0xFFFFFFU);
-  EXPECT_EQ(drawn[1], 0xC0C0C0U);
+  EXPECT_EQ(glavni.napredak_x, (2 * 15 * 15 + 9) / 3);
 }
 
 }  // namespace kalvon::testing

@@ -10,6 +10,12 @@
 
 #include "files/host_paths.h"
 
+/// The bytes of a file in `tests/data`.
+inline std::string DataFile(const std::string& name) {
+  std::ifstream file(std::filesystem::path(DATA_FOLDER) / name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 /// A folder of its own for a test, removed with all that is in it.
 class ScratchFolder {
  public:

@@ -7,7 +7,6 @@
 #include <QToolButton>
 
 #include "shell/toolkit/windows/application.h"
-#include "support/data_file.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {

@@ -13,11 +13,6 @@ namespace kalvon::testing {
 class EnglishProgramTest : public ProgramTest {
  protected:
   EnglishProgramTest() : ProgramTest(1) {}
-
-  static void ExpectEnabled(bool load, bool save) {
-    EXPECT_EQ(frm_glavni->cmd_glavni(0).Enabled(), load);
-    EXPECT_EQ(frm_glavni->cmd_glavni(1).Enabled(), save);
-  }
 };
 
 TEST_F(EnglishProgramTest, ACrosswordOfAllLettersIsSolvedByKeysAndSaved) {
@@ -37,8 +32,6 @@ TEST_F(EnglishProgramTest, ACrosswordOfAllLettersIsSolvedByKeysAndSaved) {
   ClickButton("cmd_glavni(5)");
   ClickButton("cmd_opcije(4)");
   EXPECT_EQ(frm_opcije->Label2.Caption(), "0");
-  EXPECT_LT(frm_opcije->Label1(3).Left() + frm_opcije->Label1(3).Width(),
-            frm_opcije->Label2.Left());
   EXPECT_TRUE(frm_opcije->Label1(6).Caption().starts_with("No. of horizontal words: "));
   EXPECT_FALSE(frm_opcije->frm_opcije(2).Visible());
   EXPECT_EQ(frm_opcije->Height(), 6915 - 1395);
@@ -84,11 +77,12 @@ TEST_F(EnglishProgramTest, HelpLiesOverTheGridUntilItIsClosed) {
     EXPECT_EQ(FocusedControl(), "txt_rec1");
     PressKey(Qt::Key_Delete);
     EXPECT_TRUE(panel->isVisible());
-    ExpectEnabled(false, false);
+    EXPECT_FALSE(frm_glavni->cmd_glavni(0).Enabled() || frm_glavni->cmd_glavni(1).Enabled());
     close();
     EXPECT_FALSE(panel->isVisible());
     EXPECT_EQ(frm_glavni->txt_rec1.Text(), HelpText());
-    ExpectEnabled(true, loaded);
+    EXPECT_TRUE(frm_glavni->cmd_glavni(0).Enabled());
+    EXPECT_EQ(frm_glavni->cmd_glavni(1).Enabled(), loaded);
     Load("proba.qvm");
     loaded = true;
   }

@@ -27,15 +27,10 @@ std::string Lines(const std::vector<std::string>& lines) {
 
 std::vector<std::string> HeaderLines(int width, int height, const std::array<int, 4>& marks) {
   const QString size = QString::asprintf("Dimenzije:X=%3d Y=%3d", width, height);
-  return {"",
-          "Naziv: Proba",
-          size.toStdString(),
-          "Opis: Tri puta tri",
-          "Nastavak broj: 1",
-          "H1: " + std::to_string(marks[0]),
-          "V1: " + std::to_string(marks[1]),
-          "H2: " + std::to_string(marks[2]),
-          "V2: " + std::to_string(marks[3])};
+  std::vector<std::string> lines = {"", "Naziv: Proba", size.toStdString(), "Opis: Tri puta tri",
+                                    "Nastavak broj: 1"};
+  for (const int mark : marks) lines.push_back("Oznaka: " + std::to_string(mark));
+  return lines;
 }
 
 std::string Qvm(const CrosswordText& text) {

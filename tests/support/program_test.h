@@ -29,7 +29,6 @@ class ProgramTest : public ::testing::Test {
   /// Starts the program anew in the same folder, as after an end or a crash.
   void Restart();
 
-  // Files of the program folder.
   [[nodiscard]] std::filesystem::path folder() const { return scratch_.Host(); }
   void WriteFile(const std::string& name, const std::string& bytes) const {
     scratch_.Put(name, bytes);
@@ -42,10 +41,8 @@ class ProgramTest : public ::testing::Test {
 
   /// Opens the dialog and clicks the file in its list. A sample is copied, unless it is there.
   void Choose(const std::string& name);
-  /// Chooses the file and presses the button to go on.
   void Load(const std::string& name);
 
-  /// Clicks the cell of the grid, which must be in the view.
   void ClickCell(int x, int y);
   /// Clicks a picture, at a pixel; `button` is 1 left, 2 right.
   void ClickPicture(const std::string& control, int x, int y, int button = 1);
@@ -57,7 +54,6 @@ class ProgramTest : public ::testing::Test {
   /// 0xRRGGBB of a pixel of a picture.
   [[nodiscard]] unsigned PixelOf(const std::string& control, int x, int y) const;
   [[nodiscard]] std::string FocusedControl() const;
-  /// The widget of a control, or of a form.
   template <typename Kind = QWidget>
   [[nodiscard]] Kind* Widget(const std::string& control) const {
     return dynamic_cast<Kind*>(Find(control));

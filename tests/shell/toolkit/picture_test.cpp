@@ -7,12 +7,10 @@
 
 #include "files/run_time_error.h"
 #include "files/scratch_folder.h"
-#include "support/data_file.h"
 
 namespace toolkit {
 namespace {
 
-using kalvon::testing::DataFile;
 
 Picture Load(const std::string& bytes) {
   const ScratchFolder folder;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/desktop/screen.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 

@@ -29,9 +29,9 @@ QString UpperHalf(const char* page_name) {
 /// A letter of the 7-bit national code (JUS I.B1.002 and JUS I.B1.003 with the letters Q, W, X for
 /// the digraphs): its capitals.
 struct NationalLetter {
-  char code;
+  char code = 0;
   QStringView latin;
-  char16_t cyrillic;
+  char16_t cyrillic = 0;
 };
 
 /// What the code of a small letter has more than that of its capital.
