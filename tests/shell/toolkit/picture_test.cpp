@@ -11,7 +11,6 @@
 namespace toolkit {
 namespace {
 
-
 Picture Load(const std::string& bytes) {
   const ScratchFolder folder;
   folder.Put("slika.bmp", bytes);
