@@ -16,7 +16,7 @@ using files::HostPath;
 using files::LogicPath;
 using files::pass_over;
 using Rows = std::map<std::string, std::string>;
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 class HostPathsTest : public testing::Test {
  public:
@@ -50,9 +50,9 @@ TEST_F(HostPathsTest, FindsEachComponentWithoutRegardToCase) {
 TEST_F(HostPathsTest, LeadsThroughDrivesBothWays) {
   Mount("x / ext4\nx /mnt/cd iso\nx /mnt/cd/unutra iso\n");
   for (const auto& [asked, found] : Rows{{"c:", "/"},
-                                         {"C:\\..\\.\\..\\mnt\\", "/mnt"},
-                                         {"d:\\..\\..", "/mnt/cd"},
-                                         {"c:\\mnt\\cd\\x", "/mnt/cd/x"}})
+                                         {R"(C:\..\.\..\mnt\)", "/mnt"},
+                                         {R"(d:\..\..)", "/mnt/cd"},
+                                         {R"(c:\mnt\cd\x)", "/mnt/cd/x"}})
     EXPECT_EQ(HostPath(asked), found);
   for (const auto& [asked, found] : Rows{{"//tmp/./x/../y/", "c:\\tmp\\y"},
                                          {"/", "c:\\"},

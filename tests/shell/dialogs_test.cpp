@@ -45,7 +45,7 @@ TEST_F(LoadDialogTest, AFileThatCannotBeReadShowsEmptyRowsAndChangesNothing) {
   fs::create_symlink(folder() / "nema-je", folder() / "veza.qvm");
   ASSERT_EQ(mkfifo((folder() / "cev.qvm").c_str(), 0600), 0);
   Load("proba.qvm");
-  const Crossword before = glavni;
+  const Crossword before = static_cast<Crossword&>(glavni);
   for (const char* name : {"veza.qvm", "cev.qvm"}) {
     Load(name);
     EXPECT_EQ(Description(), "Naziv: |Dimenzije:  |Opis: ") << name;
