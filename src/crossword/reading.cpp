@@ -135,7 +135,7 @@ Int16 StepsOf(const Crossword& crossword) {
 }
 
 void ReadInstallments(Crossword& crossword, const Progress& progress) {
-  static_cast<void>(StepsOf(crossword));
+  static_cast<void>(StepsOf(crossword));  // Refuses a crossword that is too large.
   const int last = crossword.nast_zadnji;
   const std::array bounds = {IndexRange{1, last}};
   Table<Int16, 1> read(bounds);

@@ -82,11 +82,11 @@ void DrawLetter(Origin cell, char letter) {
   SetFont(picture, glavni.font_ime, smaller ? 12 : 14, true);
 
   if (glavni.jezik == 0) postavi_charset();
-  glavni.znak = ShownLetter(letter, ChosenWriting());
+  const std::string znak = ShownLetter(letter, ChosenWriting());
   // Letters are centred by their width at 14 points also where they are printed smaller.
-  picture.CurrentX(cell.x + HalfDown(cell_pitch - MeasuredWidth(glavni.znak)));
+  picture.CurrentX(cell.x + HalfDown(cell_pitch - MeasuredWidth(znak)));
   picture.CurrentY(cell.y + 8);
-  picture.Print(glavni.znak);
+  picture.Print(znak);
 }
 
 void DrawContents(Origin cell, const std::string& text) {

@@ -28,7 +28,6 @@ struct CrosswordState : Crossword {
   std::string rec_tekst;                  ///< Letters in the editor, "_" for an empty place.
   std::vector<GridCell> rec_polja;        ///< Cells that the letters in the editor belong to.
   Int16 rec_poz;                          ///< Index of the focused letter box.
-  std::string znak;                       ///< The letter that is drawn, in its shown form.
 
   // Clue lists: (n, column, side), side 1 across and 2 down; column 1 text, 2 x, 3 y, 4 rows,
   // 5 media name.

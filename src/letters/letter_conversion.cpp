@@ -86,7 +86,7 @@ std::string_view slovo_digraf(std::string_view letter, const Writing& writing) {
 }
 
 std::string slovo_cirilica(std::string_view letter, const Writing& writing) {
-  if (!writing.code_page) return {};
+  if (writing.english || !writing.code_page) return {};
   if (writing.latin) return LatinCodePage(letter);
   const AlphabetLetter* const known = letter.size() == 1 ? LetterOfStored(letter.front()) : nullptr;
   return known == nullptr ? std::string() : std::string(1, known->cyrillic);

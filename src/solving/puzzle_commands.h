@@ -9,9 +9,9 @@ void resi_rec();
 /// Erases the user's letters of the selected word.
 void brisi_rec();
 
-/// An operation on the whole puzzle.
-enum class PuzzleOperation { erase_all = 0, solve_all = 1, count_wrong = 2, erase_wrong = 3 };
+enum class PuzzleOperation { erase_all, solve_all, count_wrong, erase_wrong };
 
+/// Applies an operation to the whole puzzle; `count_wrong` shows the number of wrong letters.
 void operacija_celine(PuzzleOperation operation);
 
 }  // namespace kalvon

@@ -134,8 +134,8 @@ int EncodeTyped(char32_t character, TextCode code) {
   if (character < 0x80 || code == TextCode::host) return static_cast<int>(character);
   if (National(code)) return EncodeNational(character, code);
   const QString* page = CodePage(code);
-  if (page == nullptr || character == replacement) return '?';
-  const qsizetype place = page->indexOf(QString::fromUcs4(&character, 1));
+  if (page == nullptr || character >= replacement) return '?';
+  const qsizetype place = page->indexOf(QChar(static_cast<char16_t>(character)));
   return place < 0 ? '?' : 0x80 + static_cast<int>(place);
 }
 
