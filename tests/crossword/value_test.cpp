@@ -55,7 +55,6 @@ TEST(Installments, AreFoundByTheNameOfTheChosenFile) {
        {Row{"zima1002.qvm", "zima1", 3, 2, 5},  // Other capitals, another base.
         {"zima1005.x.qvm", "zima1", 3, 5, 5},
         {"kviz008.qvm", "kviz", 3, 8, 0},
-        {"zima12.qvm", "zima12", 2, 1, 1},
         {".qvm", "", 0, 1, 1}}) {
     const Installments found = FindInstallments(name, folder);
     EXPECT_EQ(std::tuple(found.base, found.digits, found.chosen, found.last),

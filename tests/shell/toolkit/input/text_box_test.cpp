@@ -13,10 +13,7 @@ class TextBoxTest : public ::testing::Test {
  protected:
   TextBoxTest() {
     form.box.SetFocus();
-    form.box.KeyDown = [this](int& code, int shift) {
-      raised.insert(raised.end(), {code, shift});
-      if (drop) code = 0;
-    };
+    form.box.KeyDown = [this](int& code, int shift) { raised.insert(raised.end(), {code, shift}); };
     form.box.KeyPress = [this](int& code) {
       raised.push_back(code);
       if (drop) code = 0;
@@ -72,6 +69,8 @@ TEST_F(TextBoxTest, ShowsAndTakesCharactersInTheCodeOfItsFont) {
   form.box.FontName("Kalvon");
   form.box.Text("X= 15 Qx");
   EXPECT_EQ(field->text().toStdString(), "X= 15 Ljdž");
+  form.box.FontSize(18);
+  EXPECT_EQ(field->font().pixelSize(), 22);
 }
 
 }  // namespace toolkit::testing
