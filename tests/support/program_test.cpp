@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "support/program_test.h"
-#include "shell/toolkit/events/program_end.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPushButton>
+#include <algorithm>
 
 #include "shell/events.h"
 #include "shell/language.h"
 #include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
@@ -37,11 +38,6 @@ void ProgramTest::Stop() {
   UnloadForms();
   toolkit::UseBrowserHost(nullptr);
   toolkit::Restart();
-}
-
-void ProgramTest::Restart() {
-  Stop();
-  Start();
 }
 
 void ProgramTest::CopySample(const std::string& name) const {
@@ -111,12 +107,9 @@ std::string ProgramTest::FocusedControl() const {
 }
 
 QWidget* ProgramTest::Find(const std::string& control) {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    const QString name = QString::fromStdString(control);
-    if (window->objectName() == name) return window;
-    if (auto* found = window->findChild<QWidget*>(name)) return found;
-  }
-  return nullptr;
+  const QWidgetList all = QApplication::allWidgets();
+  const auto found = std::ranges::find(all, QString::fromStdString(control), &QWidget::objectName);
+  return found == all.end() ? nullptr : *found;
 }
 
 }  // namespace testing

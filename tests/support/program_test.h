@@ -27,7 +27,10 @@ class ProgramTest : public ::testing::Test {
 
   void SetUp() override { Start(); }
   /// Starts the program anew in the same folder, as after an end or a crash.
-  void Restart();
+  void Restart() {
+    Stop();
+    Start();
+  }
 
   [[nodiscard]] std::filesystem::path folder() const { return scratch_.Host(); }
   void WriteFile(const std::string& name, const std::string& bytes) const {
