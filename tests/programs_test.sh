@@ -13,7 +13,6 @@ expect() {
     timeout --preserve-status "$seconds" "$folder/$1" && break
   done
   grep "$2" "$folder/m_kalvon_ini.txt"
-  rm "$folder/m_kalvon_ini.txt"
 }
 
 expect kalvon Pismo:Latinica

@@ -61,7 +61,10 @@ TEST_F(LoadDialogTest, EnterAndADoubleClickInTheListLoadAndCancelGoesBack) {
   QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
                      list->visualRect(list->currentIndex()).center());
   ExpectOpen(false);
-  Choose("proba.qvm");
+  CopySample("proba.qvm");
+  Choose("velika.qvm");
+  for (const char* button : {"cmd_ucit(1)", "cmd_glavni(0)"}) ClickButton(button);
+  EXPECT_EQ(Widget("frm_ucit_snimi")->focusWidget(), list) << "and no more the button";
   QTest::keyClick(list, Qt::Key_A);
   ExpectOpen(true);
   EXPECT_EQ(frm_ucit_snimi->Caption(), "Ucitavanje ukrstenice");

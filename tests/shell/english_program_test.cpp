@@ -27,6 +27,8 @@ TEST_F(EnglishProgramTest, ACrosswordOfAllLettersIsSolvedByKeysAndSaved) {
   for (int click = 1; click <= 2; ++click) ClickCell(3, 1);
   Type("EQUINOX");
   EXPECT_EQ(glavni.rec_tekst, "_______") << "capitals are no keys";
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Delete}) PressKey(key);
+  EXPECT_EQ(frm_glavni->txt_rec(0).Text(), "_") << "the program's keys are none of the field's";
   Type("equinox");
   PressKey(Qt::Key_Return);
   ClickButton("cmd_glavni(5)");

@@ -45,6 +45,7 @@ TEST_F(StartupTest, FormsAreCentredByTheSizeOfTheirSheets) {
   // The options form is centred with its stored height, and grows afterwards.
   EXPECT_EQ(frm_opcije->Top(), (height - 5220 - 25 * 15) >> 1);
   EXPECT_EQ(frm_opcije->Height(), 6915);
+  EXPECT_EQ(frm_opcije->frm_opcije(2).Left(), 135);
   EXPECT_EQ(frm_opcije->frm_opcije(0).Top(), 1455);
   EXPECT_EQ(frm_opcije->frm_opcije(1).Top(), 3405);
   EXPECT_EQ(frm_opcije->cmd_opcije(0).Top(), 6105);
