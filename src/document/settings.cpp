@@ -63,9 +63,14 @@ void snimi_ini() {
   const bool cyrillic = frm_opcije->opt_opcije(script::cyrillic).Value();
   const bool yu_ascii = frm_opcije->opt_opcije1(layout::yu_ascii).Value();
   files::pass_over([&] {
-    WriteLines({"Vostrand Kalvon Multimedia", "Staza:" + frm_ucit_snimi->Dir1.Path(),
-                cyrillic ? "Pismo:Cirilica" : "Pismo:Latinica",
-                yu_ascii ? "Tastatura:YU ASCII" : "Tastatura:Unikod"});
+    Lines lines = {"Vostrand Kalvon Multimedia", "Staza:" + frm_ucit_snimi->Dir1.Path(),
+                   cyrillic ? "Pismo:Cirilica" : "Pismo:Latinica",
+                   yu_ascii ? "Tastatura:YU ASCII" : "Tastatura:Unikod"};
+    // The English program has no choice of script and layout: it keeps that of the Serbian one.
+    const Lines kept = glavni.jezik == 0 ? Lines() : ReadLines();
+    if (!kept[2].empty()) lines[2] = kept[2];
+    if (!kept[3].empty()) lines[3] = kept[3];
+    WriteLines(lines);
   });
 }
 
