@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -21,20 +20,30 @@ namespace files {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Status = struct stat;
+
+Deadline Now() { return std::chrono::steady_clock::now(); }
 
 constexpr std::size_t block_size = std::size_t{64} * 1024;
 
-/// Of the file itself if it is a link; empty if there is none.
+/// Of the file itself if it is a link; empty if there is none. Error 75 if that cannot be told.
 std::optional<Status> StatusOf(const std::string& host_path) {
   Status status{};
-  if (lstat(host_path.c_str(), &status) != 0) return std::nullopt;
-  return status;
+  if (lstat(host_path.c_str(), &status) == 0) return status;
+  if (NoSuchFile(errno)) return std::nullopt;
+  throw RuntimeError(error::path_file_access);
 }
 
 bool SameFile(const Status& one, const Status& other) {
   return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+/// Whether the name leads to the open file.
+bool BearsName(int descriptor, const std::string& host_path) {
+  Status opened{};
+  Status named{};
+  return fstat(descriptor, &opened) == 0 && lstat(host_path.c_str(), &named) == 0 &&
+         SameFile(opened, named);
 }
 
 /// The file to which a chain of symbolic links leads, also if that file does not exist yet.
@@ -59,103 +68,107 @@ void RequireWritable(const std::string& host_path, const Status& status) {
 }
 
 /// A file system that knows no locks is no reason not to save.
-void Lock(int descriptor, Clock::time_point deadline) {
+void Lock(int descriptor, Deadline deadline) {
   while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
     if (errno != EWOULDBLOCK && errno != EINTR) return;
-    if (Clock::now() > deadline) throw RuntimeError(error::permission_denied);
+    if (Now() > deadline) throw RuntimeError(error::permission_denied);
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
 }
 
-void Discard(const std::string& host_path) {
-  if (unlink(host_path.c_str()) != 0 && errno != ENOENT) {
-    throw RuntimeError(error::path_file_access);
-  }
-}
+// Two programs may save the same file at once. The lock of the temporary file is the right to fill
+// it and to let it take the target's place, or to throw it away. While waiting for it, the name may
+// have gone with the other program's file, so that the lock is worth nothing and, above all, what
+// is locked is the target. So only a file that still bears the name under the lock counts.
 
-/// Opens the temporary file, empty and locked, or returns nothing if another program was faster.
-///
-/// Two programs may save the same file at once. The lock is the right to fill the temporary file
-/// and to let it take the target's place. While waiting for it, the name may have gone with the
-/// other program's file, so that the lock is worth nothing and, above all, what is locked is the
-/// target. Only a file that still bears the name under the lock is used; one that is not empty is
-/// left over and makes room for a new one, because another name may lead to it as well.
-std::optional<int> TryOpen(const std::string& temporary, const std::string& target, mode_t mode,
-                           Clock::time_point deadline) {
-  Descriptor file(temporary, O_RDWR | O_CREAT | O_NOFOLLOW, mode);
-  const int failure = errno;
-  std::optional<Status> named = StatusOf(temporary);
-  if (!file.IsOpen()) {
-    // A link is not followed, and a file that an earlier run or another user left is thrown away.
-    const bool in_the_way =
-        named && (S_ISLNK(named->st_mode) || (S_ISREG(named->st_mode) && failure == EACCES));
-    if (!in_the_way) throw RuntimeError(OpenFailure(failure));
-    Discard(temporary);
-    return std::nullopt;
-  }
-
-  Lock(file.number(), deadline);
-  Status opened{};
-  if (fstat(file.number(), &opened) != 0) throw RuntimeError(error::device_io);
-  named = StatusOf(temporary);
-  if (!named || !SameFile(opened, *named)) return std::nullopt;
-
-  if (!S_ISREG(opened.st_mode)) throw RuntimeError(error::path_file_access);
+/// Throws away what lies in the temporary file's place, once no program fills it. It is never used,
+/// as it may be another user's, or have other names. False if it cannot go.
+bool MakeRoom(const std::string& temporary, const std::string& target, Deadline deadline) {
+  // In this order: what was temporary may be the target a moment later, but not the other way.
   const std::optional<Status> old = StatusOf(target);
-  const bool single = opened.st_nlink <= 1;
-  if (single && old && SameFile(opened, *old)) throw RuntimeError(error::path_file_access);
-  if (single && opened.st_size == 0) return file.Release();
-  Discard(temporary);
-  return std::nullopt;
+  const std::optional<Status> there = StatusOf(temporary);
+  if (!there) return true;
+  if (!S_ISREG(there->st_mode) && !S_ISLNK(there->st_mode)) return false;
+  const bool is_target = old && SameFile(*there, *old) && there->st_nlink == 1;
+  if (is_target) throw RuntimeError(error::path_file_access);
+
+  const Descriptor file(temporary, O_RDWR | O_NOFOLLOW);
+  if (!file.IsOpen() && NoSuchFile(errno)) return true;
+  if (file.IsOpen()) {
+    Lock(file.number(), deadline);
+    if (!BearsName(file.number(), temporary)) return true;
+  }
+  return unlink(temporary.c_str()) == 0 || errno == ENOENT;
 }
 
-int OpenTemporary(const std::string& temporary, const std::string& target, mode_t mode) {
-  const auto deadline = Clock::now() + std::chrono::seconds(3);
-  while (Clock::now() <= deadline) {
-    if (const auto descriptor = TryOpen(temporary, target, mode, deadline)) return *descriptor;
-  }
-  throw RuntimeError(error::permission_denied);
+/// Makes the temporary file, empty and locked; -1 if the name is taken.
+int Create(const std::string& temporary, mode_t mode, Deadline deadline) {
+  Descriptor file(temporary, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+  if (!file.IsOpen() && errno != EEXIST) throw RuntimeError(OpenFailure(errno));
+  if (!file.IsOpen()) return -1;
+  // Before it was locked, another program may have thrown it away.
+  Lock(file.number(), deadline);
+  return BearsName(file.number(), temporary) ? file.Release() : -1;
 }
 
 std::string FolderOf(const std::string& host_path) {
   return host_path.substr(0, host_path.rfind('/') + 1);
 }
 
+/// Waits until the disk has it all; whether it has.
+bool Sync(int descriptor) {
+  int result = 0;
+  do {
+    result = fsync(descriptor);
+  } while (result != 0 && errno == EINTR);
+  return result == 0;
+}
+
 /// Makes the new name last through a power cut, where the file system can.
 void FlushFolder(const std::string& host_path) {
   const Descriptor folder(host_path, O_RDONLY | O_DIRECTORY);
-  if (folder.IsOpen()) fsync(folder.number());
+  if (folder.IsOpen()) static_cast<void>(Sync(folder.number()));
 }
 
 }  // namespace
 
-FileRewrite::FileRewrite(std::string_view path, std::string_view temporary)
+FileRewrite::FileRewrite(std::string_view path, std::string_view temporary, Deadline deadline)
     : target_(LinkTarget(HostPath(path))) {
   const bool bare_name =
       !temporary.empty() && temporary != "." && temporary != ".." &&
       temporary.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
   if (!bare_name) throw RuntimeError(error::path_file_access);
   temporary_ = FolderOf(target_).append(temporary);
-  const std::optional<Status> old = StatusOf(target_);
-  if (old) RequireWritable(target_, *old);
-  // What is rewritten may be private, so until the old permissions are known nobody else reads it.
-  descriptor_ = OpenTemporary(temporary_, target_, old ? 0600 : 0666);
+  if (const std::optional<Status> old = StatusOf(target_)) {
+    RequireWritable(target_, *old);
+    old_rights_.emplace(target_, *old);
+  }
+  OpenTemporary(deadline);
 }
 
 FileRewrite::~FileRewrite() {
   if (descriptor_ < 0) return;
-  if (TemporaryIsOurs()) unlink(temporary_.c_str());
+  if (BearsName(descriptor_, temporary_)) unlink(temporary_.c_str());
   close(descriptor_);
 }
 
-bool FileRewrite::TemporaryIsOurs() const {
-  Status opened{};
-  const std::optional<Status> named = StatusOf(temporary_);
-  return named && fstat(descriptor_, &opened) == 0 && SameFile(opened, *named);
+void FileRewrite::OpenTemporary(Deadline deadline) {
+  constexpr mode_t for_everybody = 0666;
+  const mode_t mode = old_rights_ ? old_rights_->ModeBefore() : for_everybody;
+  while (MakeRoom(temporary_, target_, deadline)) {
+    descriptor_ = Create(temporary_, mode, deadline);
+    if (descriptor_ >= 0) return;
+    if (Now() > deadline) throw RuntimeError(error::permission_denied);
+  }
+  for (char digit = '1'; digit <= '9' && descriptor_ < 0; ++digit) {
+    temporary_.back() = digit;
+    descriptor_ = Create(temporary_, mode, deadline);
+  }
+  if (descriptor_ < 0) throw RuntimeError(error::path_file_access);
 }
 
-void FileRewrite::PrintLine(std::string_view line) {
-  buffer_.append(line).append("\r\n");
+void FileRewrite::PrintLine(std::string_view line, std::string_view end) {
+  buffer_.append(line).append(end);
   if (buffer_.size() >= block_size) Flush();
 }
 
@@ -173,32 +186,14 @@ void FileRewrite::Flush() {
   if (failure_ != 0) throw RuntimeError(failure_);
 }
 
-/// Failures are passed over: some file systems have no permissions to set.
-void FileRewrite::TakeOldPermissions() const {
-  const std::optional<Status> old = StatusOf(target_);
-  Status fresh{};
-  if (!old || fstat(descriptor_, &fresh) != 0) return;
-  mode_t mode = old->st_mode & 07777;
-  const bool same_owner = fresh.st_uid == old->st_uid && fresh.st_gid == old->st_gid;
-  if (!same_owner && fchown(descriptor_, old->st_uid, old->st_gid) != 0) {
-    constexpr auto unchanged = static_cast<uid_t>(-1);
-    mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
-    // Another group than the old file's gets no more than everybody has.
-    if (fresh.st_gid != old->st_gid && fchown(descriptor_, unchanged, old->st_gid) != 0) {
-      mode &= ~static_cast<mode_t>(S_IRWXG) | ((mode & S_IRWXO) << 3);
-    }
-  }
-  static_cast<void>(fchmod(descriptor_, mode));
-}
-
 void FileRewrite::Commit() {
   Flush();
-  TakeOldPermissions();
-  if (fsync(descriptor_) != 0 && errno != EINVAL) {
+  if (old_rights_) old_rights_->GiveTo(descriptor_);
+  if (!Sync(descriptor_) && errno != EINVAL) {
     failure_ = WriteFailure(errno);
     throw RuntimeError(failure_);
   }
-  if (!TemporaryIsOurs() || rename(temporary_.c_str(), target_.c_str()) != 0) {
+  if (!BearsName(descriptor_, temporary_) || rename(temporary_.c_str(), target_.c_str()) != 0) {
     throw RuntimeError(error::path_file_access);
   }
   FlushFolder(FolderOf(target_));

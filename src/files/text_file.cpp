@@ -14,11 +14,13 @@ namespace files {
 namespace {
 
 constexpr std::size_t block_size = std::size_t{64} * 1024;
+constexpr std::string_view lf = "\n";
 constexpr std::size_t longest_line = std::size_t{16} * 1024 * 1024;
 
 }  // namespace
 
-TextReader::TextReader(std::string_view path) : descriptor_(OpenForReading(path)) {}
+TextReader::TextReader(std::string_view path, std::string_view line_end)
+    : descriptor_(OpenForReading(path)), line_end_(line_end) {}
 
 TextReader::~TextReader() { close(descriptor_); }
 
@@ -48,11 +50,23 @@ void TextReader::Fail(int number) {
 
 bool TextReader::AtEnd() { return position_ == buffer_.size() && !Fill() && !unreadable_; }
 
+std::string_view TextReader::LineEnd() {
+  for (std::size_t searched = 0; line_end_.empty();) {
+    const std::size_t end = buffer_.find('\n', searched);
+    searched = buffer_.size();
+    if (end == std::string::npos && searched <= longest_line && Fill()) continue;
+    const bool alone = end != std::string::npos && (end == 0 || buffer_[end - 1] != '\r');
+    line_end_ = alone ? lf : cr_lf;
+  }
+  return line_end_;
+}
+
 std::string TextReader::Line() {
   if (AtEnd()) throw RuntimeError(error::input_past_end);
+  const std::string_view line_end = LineEnd();
   std::size_t searched = 0;
   for (;;) {
-    const std::size_t end = buffer_.find("\r\n", position_ + searched);
+    const std::size_t end = buffer_.find(line_end, position_ + searched);
     const std::size_t length = (end == std::string::npos ? buffer_.size() : end) - position_;
     if (length > longest_line) Fail(error::out_of_string_space);
     if (end == std::string::npos) {
@@ -62,7 +76,8 @@ std::string TextReader::Line() {
       if (unreadable_) Fail(error::device_io);
     }
     std::string line = buffer_.substr(position_, length);
-    position_ = end == std::string::npos ? buffer_.size() : end + 2;
+    position_ = end == std::string::npos ? buffer_.size() : end + line_end.size();
+    if (line_end == lf && line.ends_with('\r')) line.pop_back();
     return line;
   }
 }
