@@ -19,6 +19,17 @@ std::ptrdiff_t CharactersOf(std::string_view name) {
   return std::ranges::count_if(name, [](char c) { return (c & 0xC0) != 0x80; });
 }
 
+/// The highest number among the files of a folder with this base, 0 if there are none.
+int LastNumber(std::string_view base, const std::vector<std::string>& folder) {
+  int last = 0;
+  if (CharactersOf(base) != base_length) return last;
+  for (const std::string_view file : folder) {
+    if (!file.starts_with(base)) continue;
+    last = std::max(last, DecimalValue(file.substr(base.size(), number_length)));
+  }
+  return last;
+}
+
 }  // namespace
 
 std::string_view FileName(std::string_view path) { return path.substr(path.rfind('\\') + 1); }
@@ -46,14 +57,12 @@ Installments FindInstallments(std::string_view name, const std::vector<std::stri
       static_cast<int>(std::ranges::count_if(number, [](char c) { return c >= '0' && c <= '9'; }));
   if (!found.Numbered()) return found;
 
-  found.base.resize(found.base.size() - number_length);
-  found.chosen = DecimalValue(number);
-  found.last = 0;
-  if (CharactersOf(found.base) != base_length) return found;
-  for (const std::string_view file : folder) {
-    if (!file.starts_with(found.base)) continue;
-    found.last = std::max(found.last, DecimalValue(file.substr(found.base.size(), number_length)));
-  }
+  const std::string_view base = bare_name.substr(0, bare_name.size() - number_length);
+  const int last = LastNumber(base, folder);
+  if (last == 0)
+    found.digits = 0;  // They number nothing and belong to the name.
+  else
+    found = {std::string(base), found.digits, DecimalValue(number), last};
   return found;
 }
 

@@ -24,15 +24,16 @@ std::string WithExtension(std::string path, std::string_view extension);
 /// What the name of the chosen file and its folder say.
 struct Installments {
   std::string base;  ///< Name without extension and number.
-  int digits = 0;    ///< Digits among its last three characters; 3 for a numbered crossword.
+  int digits = 0;    ///< Digits among its last three characters; 3 only if they are a number.
   int chosen = 1;    ///< Number of the chosen installment.
-  int last = 1;      ///< The highest number in the folder, 0 if no file fits the base.
+  int last = 1;      ///< The highest number in the folder.
 
   [[nodiscard]] bool Numbered() const { return digits == 3; }
 };
 
-/// Finds the installments of the crossword with this file name among the files of its folder.
-/// Error 5 for a name without an extension.
+/// Finds the installments of the crossword with this file name among the files of its folder. A
+/// file whose digits number nothing, as in "sport2024.qvm", is a crossword of its own. Error 5 for
+/// a name without an extension.
 Installments FindInstallments(std::string_view name, const std::vector<std::string>& folder);
 
 /// Walks over the cells of an installment in the order of its file: row by row from the top, each
@@ -47,6 +48,8 @@ class CellWalk {
   // The grid cell.
   [[nodiscard]] int x() const { return column_ + (beside_ ? (installment_ - 1) * width_ : 0); }
   [[nodiscard]] int y() const { return row_ + (beside_ ? 0 : (installment_ - 1) * height_); }
+  /// Whether it is the last one of an installment.
+  [[nodiscard]] bool AtLast() const { return column_ == width_ && row_ == height_; }
   /// The installment that owns it.
   [[nodiscard]] int installment() const { return installment_; }
 

@@ -54,7 +54,8 @@ TEST(Installments, AreFoundByTheNameOfTheChosenFile) {
   for (const auto& [name, base, digits, chosen, last] :
        {Row{"zima1002.qvm", "zima1", 3, 2, 5},  // Other capitals, another base.
         {"zima1005.x.qvm", "zima1", 3, 5, 5},
-        {"kviz008.qvm", "kviz", 3, 8, 0},
+        {"kviz008.qvm", "kviz008", 0, 1, 1},    // No number without a base of five characters,
+        {"leto1000.qvm", "leto1000", 0, 1, 1},  // or of 0 alone.
         {".qvm", "", 0, 1, 1}}) {
     const Installments found = FindInstallments(name, folder);
     EXPECT_EQ(std::tuple(found.base, found.digits, found.chosen, found.last),

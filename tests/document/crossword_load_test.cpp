@@ -61,7 +61,6 @@ TEST_F(CrosswordLoad, EndsQuietlyAtAnyMoment) {
       {"million.qvm", Lines(HeaderLines(999, 999))},
       {"lines.qvm", Lines(HeaderLines(3, 3)) + "A$0$1$0$00\r\n"},
       {"words.qvm", Qvm({"ABC", "DEF", "GHI"})},
-      {"kviz001.qvm", Qvm({"MIR", "A#A", "KIT"})},
       {"deep.qvm", Qvm(deep)},  // The view holds no clue.
   };
   for (const bool first : {true, false}) {
