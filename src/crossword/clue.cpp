@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "crossword/clue.h"
 
+#include <algorithm>
+
 #include "crossword/direction.h"
 #include "crossword/fields.h"
 
 namespace kalvon {
+
+std::string ReadAttributes(files::TextReader& file, bool last_cell) {
+  if (last_cell && file.AtEnd()) return "";
+  std::string attributes = file.Line();
+  std::ranges::replace(attributes, ';', ',');
+  return attributes;
+}
 
 bool StartsWord(std::string_view attributes, int direction) {
   const auto place = static_cast<std::size_t>(direction);

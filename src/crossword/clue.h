@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <string_view>
+
+#include "files/text_file.h"
 
 namespace kalvon {
 
 // An attribute line: which words start in a cell, and their clues.
+
+/// Reads the attribute line of a cell from its file, where a ";" stands for a ",". That of the last
+/// cell, mostly empty and so easily lost, may be missing at the end of the file.
+std::string ReadAttributes(files::TextReader& file, bool last_cell);
 
 /// Whether a word of the direction starts in the cell of the attribute line.
 bool StartsWord(std::string_view attributes, int direction);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "crossword/cell.h"
+#include "crossword/clue.h"
 #include "crossword/fields.h"
 #include "crossword/header.h"
 #include "crossword/installments.h"
@@ -46,7 +47,7 @@ Table<std::string, 1> PathsOf(const Installments& installments, const std::strin
 }
 
 Header HeaderOf(const std::string& path) {
-  files::TextReader file(path);
+  files::TextReader file(path, files::as_the_first_line);
   return ReadHeader(file);
 }
 
@@ -60,14 +61,11 @@ void CountCell(Crossword& crossword, std::string_view cell) {
   if (Behind(across, '$').starts_with('1')) ++crossword.br_uspravnih;
 }
 
-void ReadCell(Crossword& crossword, files::TextReader& file, GridCell place, bool counted) {
-  std::string& cell = crossword.ukr_polja.Mutable(place.x, place.y, 1);
+void ReadCell(Crossword& crossword, files::TextReader& file, const CellWalk& walk, bool own) {
+  std::string& cell = crossword.ukr_polja.Mutable(walk.x(), walk.y(), 1);
   cell = file.Line();
-  if (counted) CountCell(crossword, cell);
-  std::string& attributes = crossword.ukr_polja.Mutable(place.x, place.y, 2);
-  attributes = file.Line();
-  for (std::size_t at = 0; (at = attributes.find(';', at)) != std::string::npos;)
-    attributes[at] = ',';
+  if (own) CountCell(crossword, cell);
+  crossword.ukr_polja.Mutable(walk.x(), walk.y(), 2) = ReadAttributes(file, own && walk.AtLast());
 }
 
 /// Reads the cells up to the end of the file and returns how many of them are the installment's
@@ -81,14 +79,14 @@ int ReadCells(Crossword& crossword, files::TextReader& file, int installment,
     walk.Next();
     const bool own = walk.installment() == installment;
     if (!own && crossword.nast_smer != join::side_by_side) break;
-    ReadCell(crossword, file, {walk.x(), walk.y()}, own);
+    ReadCell(crossword, file, walk, own);
     if (own) ++own_cells;
   }
   return own_cells;
 }
 
 int ReadFile(Crossword& crossword, int installment, const Progress& progress) {
-  files::TextReader file(crossword.nast_staza(installment));
+  files::TextReader file(crossword.nast_staza(installment), files::as_the_first_line);
   Header header = ReadHeader(file);
   for (std::size_t line = 0; line < header.size(); ++line) progress();
   crossword.media_sadrzaj.Mutable(installment) = std::move(header.front());
@@ -126,7 +124,7 @@ Crossword OpenCrossword(const std::string& path, const std::vector<std::string>&
   opened.ukr_polja = Table<std::string, 3>({{{0, columns}, {0, rows}, {0, 2}}});
   opened.rec_broj = Table<std::int32_t, 2>({{{0, columns}, {0, rows}}});
   opened.pitanja = Table<std::int32_t, 2>({{{0, columns * rows / 2}, {0, 3}}});
-  if (installments.last > 0) opened.nast_staza = PathsOf(installments, path, folder);
+  opened.nast_staza = PathsOf(installments, path, folder);
   return opened;
 }
 

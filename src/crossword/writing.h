@@ -5,14 +5,11 @@
 
 namespace kalvon {
 
-/// Writes the cells of an installment back into its file, unless it was missing when the crossword
-/// was read. The header, and a file that is shorter than its size, stay as they are. A file that
-/// has become another crossword stays, too. Errors as for FileRewrite and TextReader: the file then
-/// is as it was.
-void WriteInstallment(const Crossword& crossword, int installment);
-
-/// Writes all installments, each whether or not another one fails. Returns the number of the first
-/// error, or 0.
+/// Writes the cells of all installments that were read back into their files, each whether or not
+/// another one fails. A file's header, clues and line ends stay as they are, and so do a file that
+/// is shorter than its size and one that has become another crossword. All together wait a second
+/// for other programs. Returns the number of the first error, as for FileRewrite and TextReader, or
+/// 0; the file that failed is as it was.
 int WriteCrossword(const Crossword& crossword);
 
 }  // namespace kalvon

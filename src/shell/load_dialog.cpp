@@ -130,7 +130,7 @@ void opis_fajla() {
 
   Header header;
   pass_over([&] {
-    files::TextReader file(glavni.ukr_staza);
+    files::TextReader file(glavni.ukr_staza, files::as_the_first_line);
     for (std::string& line : header) line = file.Line();
   });
   dialog.lbl_ucit.Caption(Description(header));

@@ -19,10 +19,24 @@ TEST_F(Writing, ChangesNothingButTheTypedLetters) {
 
   Enter(crossword, 1, 1, 'M');
   Enter(crossword, 2, 3, 'X');
+  text.clues["A1"] = "Somebody has corrected it";
+  Put({{"Zima 1.QVM", Qvm(text)}});
   EXPECT_EQ(WriteCrossword(crossword), 0);
   text.letters = {"M", "", " X"};
   EXPECT_EQ(All(), (Files{{"Zima 1.QVM", Qvm(text)}}));
-  EXPECT_EQ(Read("Zima 1.QVM").ukr_polja, crossword.ukr_polja);
+}
+
+TEST_F(Writing, KeepsLineEndsAndCompletesTheLastLine) {
+  const std::string whole = Qvm({"MIR"});
+  std::string lf = whole;
+  std::erase(lf, '\r');
+  for (const auto& [bytes, complete] : {std::pair{lf, lf},
+                                        {whole.substr(0, whole.size() - 2), whole},
+                                        {whole.substr(0, whole.size() - 4), whole}}) {
+    Put({{"sport2024.qvm", bytes}});
+    EXPECT_EQ(WriteCrossword(Read("sport2024.qvm")), 0);
+    EXPECT_EQ(All(), (Files{{"sport2024.qvm", complete}}));
+  }
 }
 
 TEST_F(Writing, LeavesHeaderAndFieldsAsTheyStandAndAShortFileShort) {
