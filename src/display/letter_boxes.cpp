@@ -51,4 +51,9 @@ void prikazi_rec() {
   glavni.rec_poz = 0;
 }
 
+void FocusLetters() {
+  auto& box = frm_glavni->txt_rec(glavni.rec_poz);
+  if (box.Enabled()) box.SetFocus();
+}
+
 }  // namespace kalvon

@@ -10,4 +10,7 @@ inline constexpr int letter_boxes = 15;
 /// on after every failure.
 void prikazi_rec();
 
+/// Puts the focus on the letter box at which the word is edited, once there is a word.
+void FocusLetters();
+
 }  // namespace kalvon

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands.h"
 
+#include "display/letter_boxes.h"
 #include "document/crossword_save.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
@@ -15,9 +16,9 @@ namespace kalvon {
 
 namespace {
 
-void FocusLetters() {
-  auto& first = frm_glavni->txt_rec(0);
-  if (first.Enabled()) first.SetFocus();
+void Save() {
+  snimi_ukrstenicu();
+  FocusLetters();
 }
 
 void SolveWord() {
@@ -51,7 +52,7 @@ void komanda_glavni(int index) {
     case command::load:
       return otvori_dijalog(0);
     case command::save:
-      return snimi_ukrstenicu();
+      return Save();
     case command::end:
       return kraj();
     case command::solve:

@@ -102,6 +102,7 @@ void BindLoadDialog(FrmUcitSnimi& form) {
     if (character == enter) dijalog_komanda(0);
   };
   form.txt_ucit.Change = [] { opis_fajla(); };
+  form.Shortcut("F5") = [] { RereadFolder(); };
 }
 
 void BindOptions(FrmOpcije& form) {

@@ -6,6 +6,7 @@
 
 #include "crossword/fields.h"
 #include "crossword/header.h"
+#include "display/letter_boxes.h"
 #include "document/crossword_state.h"
 #include "files/host_paths.h"
 #include "files/text_file.h"
@@ -91,6 +92,7 @@ void zatvori_dijalog() {
   frm_glavni->Enabled(true);
   frm_glavni->Show();
   frm_ucit_snimi->Hide();
+  FocusLetters();
 }
 
 void dijalog_komanda(int index) {
@@ -119,6 +121,16 @@ void dijalog_navigacija(int list) {
     default:
       break;
   }
+}
+
+void RereadFolder() {
+  auto& dialog = *frm_ucit_snimi;
+  const std::string chosen = dialog.txt_ucit.Text();
+  OrBackToOwnDrive([&] { dialog.Dir1.Path(dialog.Dir1.Path()); });
+  OrBackToOwnDrive([&] { dialog.File1.Path(dialog.Dir1.Path()); });
+  dialog.txt_ucit.Text("");
+  for (int row = 0; row < dialog.File1.ListCount(); ++row)
+    if (dialog.File1.List(row) == chosen) dialog.File1.ListIndex(row);
 }
 
 void opis_fajla() {

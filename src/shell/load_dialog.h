@@ -18,4 +18,8 @@ void dijalog_navigacija(int list);
 /// Describes the chosen file by the head of it.
 void opis_fajla();
 
+/// Reads the folder of the dialog anew, and shows what is there now. The chosen file stays chosen
+/// as long as it is there.
+void RereadFolder();
+
 }  // namespace kalvon

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "display/font_change.h"
+#include "display/letter_boxes.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
@@ -67,6 +68,7 @@ void sakrij_opcije() {
   frm_glavni->Enabled(true);
   frm_glavni->Show();
   frm_opcije->Hide();
+  FocusLetters();
 }
 
 void komanda_opcije(int index) {

@@ -21,9 +21,10 @@ class LoadDialogTest : public ProgramTest {
     return rows;
   }
 
-  static void ExpectOpen(bool open) {
+  void ExpectOpen(bool open) const {
     EXPECT_EQ(frm_ucit_snimi->Visible(), open);
     EXPECT_EQ(frm_glavni->Enabled(), !open);
+    EXPECT_TRUE(open || FocusedControl() == "txt_rec(0)");
   }
 };
 
@@ -79,6 +80,7 @@ TEST_F(LoadDialogTest, EnterAndADoubleClickInTheListLoadAndCancelGoesBack) {
   ClickButton("cmd_ucit(1)");
   ExpectOpen(false);
   ClickButton("cmd_glavni(1)");
+  ExpectOpen(false);
   EXPECT_EQ(ReadFile("velika.qvm"), other);
   EXPECT_NE(ReadFile("proba.qvm").find("MM$0$1$1$00"), std::string::npos) << "a solved cell";
 }
@@ -89,6 +91,12 @@ TEST_F(LoadDialogTest, AnotherFolderEmptiesTheNameAndShowsItsFiles) {
   fs::copy_file(folder() / "proba.qvm", folder() / "Nova Godina" / "Zima.QVM");
   frm_ucit_snimi->Dir1.Path(frm_ucit_snimi->Dir1.Path() + "\\nova godina");
   EXPECT_EQ(frm_ucit_snimi->txt_ucit.Text() + Description(), "");
+  frm_ucit_snimi->File1.ListIndex(0);
+  WriteFile("Nova Godina/Advent.qvm", "");
+  QApplication::setActiveWindow(Widget("frm_ucit_snimi"));
+  QTest::keyClick(Widget("Dir1"), Qt::Key_F5);
+  EXPECT_EQ(frm_ucit_snimi->File1.List(0), "Advent.qvm");
+  EXPECT_EQ(frm_ucit_snimi->File1.ListIndex(), 1) << "the file that was chosen";
   ClickButton("cmd_ucit(1)");
   Load("Zima.QVM");
   ClickButton("cmd_glavni(3)");
@@ -135,7 +143,7 @@ TEST_F(OptionsDialogTest, ShowsTheStatisticsEachTimeAnewAndIsLeftByItsButtonAlon
     QTest::keyClick(Widget("frm_opcije"), Qt::Key_Escape);
     EXPECT_TRUE(frm_opcije->Visible() && frm_glavni->Visible());
     QTest::keyClick(Widget("cmd_opcije(0)"), Qt::Key_Return);
-    EXPECT_TRUE(!frm_opcije->Visible() && frm_glavni->Enabled());
+    EXPECT_TRUE(!frm_opcije->Visible() && FocusedControl() == "txt_rec(0)");
     ClickButton("cmd_glavni(5)");
   }
 }

@@ -35,7 +35,7 @@ const Action actions[] = {
     {main_form, 1, ends, "cmd_glavni(2) Return"},
     {help, 1, keeps, "cmd_glavni(6) pic_tekst(0) txt_rec1"},
     {dialog, 20, keeps, "File1"},
-    {dialog, 5, ends, "cmd_ucit(0)"},
+    {dialog, 5, keeps, "cmd_ucit(0)"},
     {dialog, 1, keeps, "Dir1 cmd_ucit(1)"},
     {dialog, 1, ends, "crash"},
     {options, 3, keeps, "opt_opcije(0) opt_opcije(1) opt_opcije1(0) opt_opcije1(1) cmd_opcije(4)"},

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QResizeEvent>
+#include <QShortcut>
 #include <QWidget>
 #include <QWindow>
 
@@ -125,6 +126,17 @@ void Form::Caption(const std::string& caption) {
 void Form::Icon(const std::string& picture_name) {
   widget_->setWindowIcon(
       QIcon(QStringLiteral(":/pictures/") + QString::fromStdString(picture_name)));
+}
+
+Event<>& Form::Shortcut(const std::string& keys) {
+  const auto [place, made] = shortcuts_.try_emplace(keys);
+  Event<>& event = place->second;
+  if (made) {
+    auto* shortcut = new QShortcut(
+        QKeySequence(QString::fromStdString(keys), QKeySequence::PortableText), widget_.get());
+    QObject::connect(shortcut, &QShortcut::activated, shortcut, [&event] { event.Raise(); });
+  }
+  return event;
 }
 
 void Form::Show() {

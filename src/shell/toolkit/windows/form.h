@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -52,6 +53,9 @@ class Form : public Window {
   /// The icon of the window, one of the pictures that are built in.
   void Icon(const std::string& picture_name);
 
+  /// Raised by a combination of keys, "F5" or "Ctrl+S", wherever in the form the focus is.
+  Event<>& Shortcut(const std::string& keys);
+
   Event<> Resize;
   /// The user closes the form. Setting the argument keeps it open.
   Event<bool&> Unload;
@@ -74,6 +78,7 @@ class Form : public Window {
   void TakeSize(int width, int height);
 
   std::unique_ptr<FormWidget> widget_;
+  std::map<std::string, Event<>> shortcuts_;
   std::string caption_;
   Border border_;
   Scale scale_;
