@@ -56,7 +56,7 @@ void TakeClue(int strana, int x, int y) {
   CluesInList(strana) = n;
   auto& lista = glavni.lista;
   lista.Mutable(n, 1, strana) = std::to_string(glavni.rec_broj(x, y)) + ": ";
-  lista.Mutable(n, 1, strana) += clue.text;
+  lista.Mutable(n, 1, strana) += clue.text.substr(0, printed_at_most);
   lista.Mutable(n, 2, strana) = std::to_string(x);
   lista.Mutable(n, 3, strana) = std::to_string(y);
   lista.Mutable(n, 4, strana) = "1";

@@ -42,18 +42,13 @@ bool HasEnding(std::string_view name, std::string_view ending) {
          (end == ending || std::ranges::equal(ending, end, capital));
 }
 
-/// So many characters never fit in a row, and so many rows reach far below the box: what lies
-/// behind them in an endless clue is neither measured nor printed.
-constexpr std::size_t characters_at_most = 200;
-constexpr int rows_at_most = 100;
-
 /// Whether a text is no wider than a row of a list.
 bool Fits(std::string_view text, int width) { return MeasuredWidth(std::string(text)) <= width; }
 
 /// Length of the row that begins a text: the longest beginning that fits and ends before a blank,
 /// or one character if none does.
 std::size_t RowLength(std::string_view text, int width) {
-  text = text.substr(0, characters_at_most);
+  text = text.substr(0, row_characters_at_most);
   std::size_t length = 1;
   // A longer beginning is never narrower, so the first one that is too wide ends the search.
   for (std::size_t end = 0; end < text.size();) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -10,6 +11,7 @@ namespace files {
 namespace error {
 inline constexpr int invalid_call = 5;
 inline constexpr int overflow = 6;
+inline constexpr int out_of_memory = 7;
 inline constexpr int subscript_out_of_range = 9;
 inline constexpr int out_of_string_space = 14;
 inline constexpr int file_not_found = 53;
@@ -48,6 +50,8 @@ int pass_over(Statement statement) {
     statement();
   } catch (const RuntimeError& failure) {
     return failure.number();
+  } catch (const std::bad_alloc&) {
+    return error::out_of_memory;
   }
   return 0;
 }

@@ -161,11 +161,7 @@ void ucitaj_ukrstenicu() {
   const toolkit::Hourglass hourglass;
   Crossword opened;
   if (files::pass_over([&] { opened = OpenChosenCrossword(); }) != 0) return;
-  try {
-    Show(std::move(opened));
-  } catch (const files::RuntimeError&) {
-    ShowUnselected();
-  }
+  if (files::pass_over([&] { Show(std::move(opened)); }) != 0) ShowUnselected();
 }
 
 }  // namespace kalvon
