@@ -88,6 +88,18 @@ TEST_F(GridView, ShowsTheUsersLetterInTheMiddleAndNeverTheSolution) {
   EXPECT_LT(height_of_m[1], height_of_m[0]) << "a standard font is printed smaller";
 }
 
+TEST_F(GridView, ARingHidesNoPartOfALetter) {
+  const auto dark = [&](const std::string& cell) {
+    return QRegion(QBitmap::fromImage(Drawn(cell).copy(1, 1, 27, 27), Qt::ThresholdDither));
+  };
+  const QRegion ring = dark("K$0$1$0$00");
+  for (const int layout : {0, 1}) {
+    Choose(1, layout);
+    for (const std::string letter : {"C", "^", "]", "[", "@", "\\"})
+      EXPECT_TRUE(!ring.intersects(dark('K' + letter + "$0$0$0$00"))) << letter << layout;
+  }
+}
+
 TEST_F(GridView, EndsWithTheGrid) {
   for (const auto& [width, height] : {std::pair{6, 15}, {16, 4}}) {
     Solve({.rows = std::vector(std::size_t(height), std::string(std::size_t(width), '.'))});

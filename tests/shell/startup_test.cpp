@@ -21,6 +21,8 @@ TEST_F(StartupTest, TheFirstCrosswordEnablesWhatNeedsOne) {
          {"cmd_glavni(1)", "cmd_glavni(3)", "cmd_glavni(4)", "cmd_glavni(5)", "pic_ukr", "scr_hor",
           "scr_ver", "scr_tekst(1)", "pic_tekst(1)", "txt_rec(14)"})
       EXPECT_EQ(Widget(control)->isEnabled(), loaded) << control;
+    EXPECT_EQ(Widget("frm_glavni")->grab().toImage().pixel(3, 300) & 0xFFFFFFU, 0xC0C0C0U)
+        << loaded;
     EXPECT_NE(PixelOf("pic_ukr", 5, 5), 0xFFFFFFU) << "the title picture, or the first word's mark";
   }
 }

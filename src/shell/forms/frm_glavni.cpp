@@ -80,7 +80,10 @@ FrmGlavni::FrmGlavni()
 
   Label1.Add(*this, {"Label1", {6, 30, 91, 15}, 9, "Vodoravno", 0});
   Label1.Add(*this, {"Label1", {5, 256, 91, 15}, 10, "Uspravno", 1});
-  Label1.ForEach([](toolkit::Label& heading) { heading.FontBold(true); });
+  Label1.ForEach([](toolkit::Label& heading) {
+    heading.FontBold(true);
+    heading.Lift(2);
+  });
 
   pic_tekst.Add(*this, {"pic_tekst", {5, 42, 161, 210}, 5, "", 0});
   pic_tekst.Add(*this, {"pic_tekst", {5, 268, 161, 210}, 7, "", 1});
@@ -101,6 +104,7 @@ FrmGlavni::FrmGlavni()
   scr_ver.LargeChange(10);
   scr_hor.LargeChange(10);
   pic_ukr.WheelMoves(scr_ver);
+  pic_ukr.WheelMoves(scr_hor);
 
   txt_rec1.Flat();
   txt_rec1.Lock();

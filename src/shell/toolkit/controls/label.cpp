@@ -26,6 +26,8 @@ void Label::Align(Alignment alignment) {
   static_cast<QLabel*>(widget())->setAlignment(HostAlignment(alignment) | Qt::AlignTop);
 }
 
+void Label::Lift(int pixels) { widget()->setContentsMargins(0, -pixels, 0, 0); }
+
 void Label::Boxed() {
   auto* label = static_cast<QLabel*>(widget());
   label->setFrameStyle(QFrame::Box | QFrame::Plain);

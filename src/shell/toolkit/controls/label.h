@@ -15,6 +15,8 @@ class Label : public CaptionedControl {
   void AutoSize(bool auto_size);
 
   void Align(Alignment alignment);
+  /// Draws the caption so many pixels higher, where a control below would hide its descenders.
+  void Lift(int pixels);
   /// White, with a single border, as a small window of its own.
   void Boxed();
 

@@ -31,6 +31,21 @@ QStringList InstalledFonts(TextCode code) {
           QStringLiteral("DejaVu Sans")};
 }
 
+/// The font of a capital that stands by itself and has an accent above. In a ring of the grid there
+/// is no more height than that of a plain capital, so it is lower, and as wide as the plain one.
+QFont Lowered(QFont font) {
+  constexpr double height = 14.0 / 17;
+  constexpr int width_in_percent = 115;
+  font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * height)));
+  font.setStretch(width_in_percent);
+  return font;
+}
+
+bool IsAccentedCapital(const QString& text) {
+  return text.size() == 1 && text.front().isUpper() &&
+         text.front().decompositionTag() == QChar::Canonical;
+}
+
 using FaceKey = std::tuple<std::string, double, bool, int>;
 
 std::map<FaceKey, std::unique_ptr<Face>>& Faces() {
@@ -40,7 +55,8 @@ std::map<FaceKey, std::unique_ptr<Face>>& Faces() {
 
 }  // namespace
 
-Face::Face(const QFont& font, TextCode code) : font_(font), metrics_(font), code_(code) {
+Face::Face(const QFont& font, TextCode code)
+    : font_(font), metrics_(font), lowered_font_(Lowered(font)), code_(code) {
   const int caron_top = -metrics_.tightBoundingRect(QStringLiteral("\u017D")).top();
   room_for_carons_ = std::max(0, caron_top - metrics_.ascent());
 }
@@ -52,6 +68,8 @@ Face& Face::Of(const std::string& name, double points, bool bold, int charset) {
     QFont font(InstalledFonts(code));
     font.setPixelSize(PixelSize(points, code));
     font.setBold(bold);
+    // Kerning by whole pixels would take the blank beside an A, a T or a V.
+    font.setKerning(false);
     font.setHintingPreference(QFont::PreferFullHinting);
     face = std::make_unique<Face>(font, code);
   }
@@ -71,9 +89,18 @@ const Face::LaidOut& Face::LayOut(const std::string& text) {
   laid_out.text.setTextFormat(Qt::PlainText);
   laid_out.text.setText(shown);
   laid_out.text.setPerformanceHint(QStaticText::AggressiveCaching);
-  laid_out.text.prepare(QTransform(), font_);
-  laid_out.width = metrics_.horizontalAdvance(shown);
+  laid_out.font = IsAccentedCapital(shown) ? &lowered_font_ : &font_;
+  laid_out.text.prepare(QTransform(), *laid_out.font);
+  const QFontMetrics metrics(*laid_out.font);
+  laid_out.width = metrics.horizontalAdvance(shown);
+  // All letters stand on one line, whatever their font.
+  laid_out.drop = room_for_carons_ + metrics_.ascent() - metrics.ascent();
   return *laid_out_.insert(QByteArray(text.data(), static_cast<qsizetype>(text.size())), laid_out);
+}
+
+void Face::Print(QPainter& painter, QPoint at, const LaidOut& text) {
+  painter.setFont(*text.font);
+  painter.drawStaticText(at + QPoint(0, text.drop), text.text);
 }
 
 }  // namespace toolkit

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QHash>
+#include <QPainter>
 #include <QStaticText>
 #include <string>
 
@@ -18,6 +19,8 @@ class Face {
   struct LaidOut {
     QStaticText text;
     int width = 0;  ///< Pixels.
+    const QFont* font = nullptr;
+    int drop = 0;  ///< Pixels from the top of the line to that of the letters.
   };
 
   /// The face of a font name, a size in points, and so on. It lives as long as the application.
@@ -29,19 +32,21 @@ class Face {
   [[nodiscard]] const QFont& font() const { return font_; }
   [[nodiscard]] TextCode code() const { return code_; }
   [[nodiscard]] int LineHeight() const { return metrics_.height() + room_for_carons_; }
-  /// Pixels that the letters stand lower than the font says, so that the caron of a capital stays
-  /// in its line.
-  [[nodiscard]] int RoomForCarons() const { return room_for_carons_; }
   [[nodiscard]] QString Shown(const std::string& text) const { return Decode(text, code_); }
 
   const LaidOut& LayOut(const std::string& text);
+  /// Draws a text with the top left corner of its line at a place.
+  static void Print(QPainter& painter, QPoint at, const LaidOut& text);
 
   Face(const QFont& font, TextCode code);
 
  private:
   QFont font_;
   QFontMetrics metrics_;
+  QFont lowered_font_;  ///< Of a single capital with an accent.
   TextCode code_;
+  /// Pixels that the letters stand lower than the font says, so that the caron of a capital stays
+  /// in its line.
   int room_for_carons_;
   QHash<QByteArray, LaidOut> laid_out_;
 };

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QWheelEvent>
+#include <cstdlib>
 #include <utility>
 
 #include "shell/toolkit/drawing/surface_p.h"
@@ -23,6 +24,10 @@ int ButtonNumber(Qt::MouseButton button) {
   }
 }
 
+bool CanMove(const QAbstractSlider* bar) {
+  return bar != nullptr && bar->isEnabled() && bar->maximum() > bar->minimum();
+}
+
 }  // namespace
 
 QPainter& Surface::Painter(QPainter::CompositionMode mode) {
@@ -31,7 +36,9 @@ QPainter& Surface::Painter(QPainter::CompositionMode mode) {
   return painter_;
 }
 
-void Surface::Drawn(const QRect& part) {
+void Surface::Drawn(const QRect& drawn) {
+  // On a dense display the edges of what is drawn may lie within a pixel of the screen.
+  const QRect part = drawn.adjusted(-1, -1, 1, 1);
   // What is drawn without persistence goes to the screen at once, as the progress of a load must.
   if (persistent || !isVisible())
     update(part);
@@ -84,15 +91,14 @@ void Surface::paintEvent(QPaintEvent* event) {
   QPainter(this).drawImage(part, image_, QRectF(part.topLeft() * ratio, part.size() * ratio));
 }
 
-void Surface::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  if (frame_) frame_->setVisible(true);
+void Surface::setVisible(bool visible) {
+  QWidget::setVisible(visible);
+  if (frame_) frame_->setVisible(visible);
 }
 
 void Surface::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   if (!persistent) Clear(background_);
-  if (frame_) frame_->setVisible(!isHidden());
 }
 
 void Surface::mousePressEvent(QMouseEvent* event) {
@@ -103,7 +109,17 @@ void Surface::mousePressEvent(QMouseEvent* event) {
 void Surface::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void Surface::wheelEvent(QWheelEvent* event) {
-  if (wheel_bar_ && wheel_bar_->isEnabled()) QApplication::sendEvent(wheel_bar_, event);
+  const QPoint turn = event->angleDelta();
+  const bool sideways = std::abs(turn.x()) > std::abs(turn.y());
+  const int steps = sideways ? turn.x() : turn.y();
+  const bool across = sideways || event->modifiers().testFlag(Qt::ShiftModifier);
+  QAbstractSlider* bar = across ? bar_across : bar_down;
+  if (!CanMove(bar)) bar = across ? bar_down : bar_across;
+  if (!CanMove(bar)) return;
+  // With Shift the bar would take a whole page.
+  QWheelEvent turned(event->position(), event->globalPosition(), {}, {0, steps}, event->buttons(),
+                     event->modifiers() & ~Qt::ShiftModifier, event->phase(), event->inverted());
+  QApplication::sendEvent(bar, &turned);
 }
 
 void Surface::mouseReleaseEvent(QMouseEvent* event) {

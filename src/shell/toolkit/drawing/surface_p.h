@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractSlider>
 #include <QImage>
 #include <QPainter>
 #include <QPointer>
@@ -26,7 +27,7 @@ class Surface : public QWidget {
   /// of a grid would cost more than the letters.
   QPainter& Painter(QPainter::CompositionMode mode);
   /// Says that a part of the image has changed.
-  void Drawn(const QRect& part);
+  void Drawn(const QRect& drawn);
   void Clear(const QColor& colour);
 
   /// Gives the image the size and the pixel ratio of the widget, and keeps what it shows. A hidden
@@ -36,14 +37,17 @@ class Surface : public QWidget {
   void AddFrame();
   void PlaceFrame();
 
-  void SendWheelTo(QWidget* bar) { wheel_bar_ = bar; }
+  /// The bars that the wheel moves; either may be missing.
+  QPointer<QAbstractSlider> bar_down;
+  QPointer<QAbstractSlider> bar_across;
+
+  void setVisible(bool visible) override;
 
   /// What is on the surface.
   const QImage& Shown();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -56,7 +60,6 @@ class Surface : public QWidget {
   QColor background_ = Qt::white;
   bool held_ = false;
   QPointer<QWidget> frame_;
-  QPointer<QWidget> wheel_bar_;
 };
 
 }  // namespace toolkit

@@ -52,7 +52,10 @@ void PictureBox::Persistent(bool persistent) { surface().persistent = persistent
 
 void PictureBox::Framed() { surface().AddFrame(); }
 
-void PictureBox::WheelMoves(ScrollBar& bar) { surface().SendWheelTo(bar.widget()); }
+void PictureBox::WheelMoves(ScrollBar& bar) {
+  auto* const slider = static_cast<QAbstractSlider*>(bar.widget());
+  (slider->orientation() == Qt::Vertical ? surface().bar_down : surface().bar_across) = slider;
+}
 
 void PictureBox::BackColor(Colour colour) {
   back_color_ = colour;
@@ -83,9 +86,8 @@ void PictureBox::Print(const std::string& text) {
   const Face::LaidOut& laid_out = face.LayOut(text);
   const QPoint at(Pixels(current_x_), Pixels(current_y_));
   QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
-  painter.setFont(face.font());
   painter.setPen(Qt::black);
-  painter.drawStaticText(at + QPoint(0, face.RoomForCarons()), laid_out.text);
+  Face::Print(painter, at, laid_out);
   // Some letters reach beyond the width that they take up.
   constexpr int overhang = 2;
   surface().Drawn(

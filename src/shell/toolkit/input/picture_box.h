@@ -36,7 +36,8 @@ class PictureBox : public Control, public Container {
   /// A one-pixel frame that lies around the drawing pixels, outside the control's place.
   void Framed();
 
-  /// The mouse wheel over the picture moves this bar.
+  /// The mouse wheel over the picture moves this bar: an upright one, or with Shift or turned
+  /// sideways a level one. Where only one of the two can move, the wheel always moves that.
   void WheelMoves(ScrollBar& bar);
 
   void ScaleMode(Scale scale) { scale_ = scale; }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QScreen>
+#include <QWheelEvent>
 
 #include "shell/toolkit/control_form.h"
 #include "shell/toolkit/drawing/surface_p.h"
@@ -48,6 +49,24 @@ TEST_F(PictureBoxTest, WhatIsDrawnReachesTheScreen) {
   EXPECT_EQ(OnScreen().pixelColor(58, 48), Qt::blue) << "at once";
   form.Hide();
   EXPECT_EQ(Drawn().pixelColor(58, 48), QColor(0xC0C0C0));
+}
+
+TEST_F(PictureBoxTest, TheWheelMovesTheBarOfItsDirectionAndElseTheOneThatCanMove) {
+  ScrollBar level(form, {"level", {0, 110, 100, 17}, 7}, Orientation::horizontal);
+  picture.WheelMoves(form.bar);
+  picture.WheelMoves(level);
+  const auto turn = [&](QPoint angle, Qt::KeyboardModifiers keys = {}) {
+    const int before[] = {form.bar.Value(), level.Value()};
+    QWheelEvent event({5, 5}, {5, 5}, {}, angle, {}, keys, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(surface, &event);
+    return std::pair(form.bar.Value() - before[0], level.Value() - before[1]);
+  };
+  EXPECT_EQ(turn({0, -120}), std::pair(3, 0));
+  EXPECT_EQ(turn({-120, 0}), std::pair(0, 3));
+  EXPECT_EQ(turn({0, -120}, Qt::ShiftModifier), std::pair(0, 3));
+  form.bar.Max(3);
+  form.bar.Min(3);
+  EXPECT_EQ(turn({0, 120}), std::pair(0, -3));
 }
 
 }  // namespace toolkit::testing
