@@ -12,6 +12,8 @@ namespace kalvon {
 struct GridCell {
   int x = 0;
   int y = 0;
+
+  bool operator==(const GridCell&) const = default;
 };
 
 /// How installments are joined into one grid, in the numbers of `nast_smer`.

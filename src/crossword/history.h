@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <deque>
+
+#include "crossword/step.h"
+
+namespace kalvon {
+
+/// The steps that were made, and behind them those that were taken back and can be made again.
+///
+/// Once all of them together change more than a million cells, which takes about 100 MB, the oldest
+/// are forgotten: solving and erasing the largest crossword thirty times over is below that.
+class History {
+ public:
+  /// Adds a step that was made. Steps that were taken back are forgotten.
+  void Add(Step step);
+  /// Adds, behind all others, a step that was made once and is taken back.
+  void AddUndone(Step step);
+
+  /// The step that was made last, or taken back last; null if there is none.
+  [[nodiscard]] const Step* LastMade() const;
+  [[nodiscard]] const Step* LastUndone() const;
+  /// The last made counts as taken back, the last taken back as made.
+  void Back();
+  void Forward();
+
+  bool operator==(const History&) const = default;
+
+ private:
+  void Append(Step step);
+
+  std::deque<Step> steps_;
+  std::size_t made_ = 0;     ///< How many of them, from the first.
+  std::size_t changes_ = 0;  ///< Cells that all of them change.
+};
+
+}  // namespace kalvon
