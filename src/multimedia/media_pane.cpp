@@ -118,7 +118,8 @@ void Show(Medium medium) {
 /// Whether the file of a path is a medium in the program's folder, to be deleted when it is no
 /// longer on show.
 bool IsTemporaryMedium(std::string_view path) {
-  return path.starts_with(glavni.app_staza) && MayNameMedium(path.substr(glavni.app_staza.size()));
+  return path.starts_with(glavni.app_staza) &&
+         KindOfMedium(path.substr(glavni.app_staza.size())) != nullptr;
 }
 
 }  // namespace
