@@ -9,6 +9,7 @@
 #include "display/grid_geometry.h"
 #include "display/writing.h"
 #include "document/crossword_state.h"
+#include "files/binary_file.h"
 #include "files/text_file.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/toolkit/events/program_end.h"
@@ -63,18 +64,13 @@ void ShowPicture() {
   Display().Visible(true);
 }
 
-/// The lines of the temporary file, each closed by CR LF; one empty line for an empty file.
+/// The temporary file, with CR LF also behind its last line; nothing if it cannot be read.
 std::string ReadText() {
-  std::string text;
-  pass_over([&] {
-    files::TextReader file(glavni.media_temp);
-    do {
-      std::string line;
-      pass_over([&] { line = file.Line(); });
-      text.append(line).append("\r\n");
-    } while (!file.AtEnd() && text.size() < longest_text);
-  });
-  if (text.size() > longest_text) text.resize(longest_text);
+  std::string text(longest_text, '\0');
+  const int failed =
+      pass_over([&] { text.resize(files::BinaryReader(glavni.media_temp).Get(1, text).size()); });
+  if (failed != 0) return {};
+  if (text.size() < longest_text && !text.ends_with("\r\n")) text += "\r\n";
   return text;
 }
 

@@ -89,6 +89,8 @@ TEST_F(MediaPaneTest, ShowsTheLinesOfATextWithItsDigraphs) {
     EXPECT_EQ(Widget("txt_media(1)")->geometry(), QRect(7, 50, 162, 154));
     frm_glavni->txt_media(1).Left(157);
   }
+  Show("tekst.txt", std::string(17 << 20, 'a'));
+  EXPECT_EQ(frm_glavni->txt_media(1).Text().size(), 256U << 10);
   Show("nema.txt");
   EXPECT_EQ(frm_glavni->txt_media(1).Text(), "");
 }
