@@ -134,7 +134,8 @@ void prikazi_media(const std::string& tip) {
 void otvori_media() {
   zatvori_mci();
   auto& device = frm_glavni->mm_media;
-  // A medium that has played to its end has no type any more, and is opened on the same device.
+  // A medium that does not play, or has played to its end, has no type: a click closes its pane.
+  // It is opened again on the same device.
   const MediaKind* const kind = FindMediaKind(glavni.media_tip);
   if (kind != nullptr) device.DeviceType(DeviceOf(kind->medium));
   if (glavni.media_tip == "avi") {
@@ -143,8 +144,8 @@ void otvori_media() {
     device.hWndDisplay(glavni.media_hwnd);
   }
   device.FileName(glavni.app_staza + glavni.media_fajl);
-  pass_over([&] { device.Command("Open"); });
-  if (glavni.media_gotovo == 1) {
+  const bool failed = pass_over([&] { device.Command("Open"); }) != 0;
+  if (glavni.media_gotovo == 1 || failed) {
     glavni.media_tip.clear();
     glavni.media_gotovo = 0;
   }
