@@ -7,7 +7,6 @@
 #include <span>
 
 #include "crossword/fields.h"
-#include "crossword/media_kinds.h"
 #include "files/binary_file.h"
 #include "files/folder_entries.h"
 
@@ -91,11 +90,11 @@ void CutOut(const std::string& pack_path, const PackEntry& entry, const std::str
   }
 }
 
-bool MayNameMedium(std::string_view name) {
+const MediaKind* KindOfMedium(std::string_view name) {
   const std::string lower = files::LowerCase(name);
   const std::size_t dot = lower.rfind('.');
-  return IsBare(name) && lower != settings_name && dot != std::string::npos &&
-         FindMediaKind(std::string_view(lower).substr(dot + 1)) != nullptr;
+  if (!IsBare(name) || lower == settings_name || dot == std::string::npos) return nullptr;
+  return FindMediaKind(std::string_view(lower).substr(dot + 1));
 }
 
 }  // namespace kalvon

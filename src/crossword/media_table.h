@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "crossword/media_kinds.h"
+
 namespace kalvon {
 
 // The media pack of an installment: files in whole units of 1000 bytes, one behind the other, and
@@ -30,8 +32,9 @@ void CutOut(const std::string& pack_path, const PackEntry& entry, const std::str
 /// The name of the file that keeps the settings.
 inline constexpr std::string_view settings_name = "m_kalvon_ini.txt";
 
-/// Whether the name is a bare file name that ends as a medium's does, and not the settings file's.
-/// Nothing else is ever written: the host reads files of other names where a program lies.
-bool MayNameMedium(std::string_view name);
+/// The kind of the medium that a name may stand for: null unless it is a bare file name that ends
+/// as a medium's does, and not the settings file's. Nothing else is ever written: the host reads
+/// files of other names where a program lies.
+const MediaKind* KindOfMedium(std::string_view name);
 
 }  // namespace kalvon

@@ -8,6 +8,7 @@
 #include "crossword/fields.h"
 #include "crossword/installments.h"
 #include "crossword/media_table.h"
+#include "crossword/media_wave.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
 #include "shell/toolkit/desktop/screen.h"
@@ -26,12 +27,14 @@ int InstallmentOfWord() {
 }
 
 void Extract() {
-  if (!MayNameMedium(glavni.media_fajl)) return;
+  const MediaKind* const kind = KindOfMedium(glavni.media_fajl);
+  if (kind == nullptr) return;
   const int installment = InstallmentOfWord();
   const auto entry = FindInTable(glavni.media_sadrzaj(installment), glavni.media_fajl);
-  if (!entry) return;
-  CutOut(WithExtension(glavni.nast_staza(installment), "qvd"), *entry,
-         glavni.app_staza + glavni.media_fajl);
+  if (!entry || entry->size > kind->largest) return;
+  const std::string path = glavni.app_staza + glavni.media_fajl;
+  CutOut(WithExtension(glavni.nast_staza(installment), "qvd"), *entry, path);
+  if (kind->medium == Medium::sound) CutOffTail(path);
 }
 
 std::string TypeOf(std::string_view name) {
@@ -46,7 +49,7 @@ void izvuci_media() {
   const toolkit::Hourglass hourglass;
   files::pass_over([] { Extract(); });
   // What is no medium in the program's folder is not looked at: the pane shows the clue alone.
-  prikazi_media(MayNameMedium(glavni.media_fajl) ? TypeOf(glavni.media_fajl) : "");
+  prikazi_media(KindOfMedium(glavni.media_fajl) != nullptr ? TypeOf(glavni.media_fajl) : "");
 }
 
 }  // namespace kalvon

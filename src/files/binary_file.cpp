@@ -53,4 +53,9 @@ void BinaryWriter::Put(std::string_view bytes) const {
   }
 }
 
+void CutOff(std::string_view path, std::int64_t bytes) {
+  const Descriptor file(HostPath(path), O_WRONLY | O_NOFOLLOW);
+  if (ftruncate(file.number(), bytes) != 0) throw RuntimeError(error::device_io);
+}
+
 }  // namespace files

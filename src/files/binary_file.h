@@ -41,4 +41,7 @@ class BinaryWriter {
   int descriptor_;
 };
 
+/// Cuts off what a file has behind its first bytes. Error 57 if that cannot be.
+void CutOff(std::string_view path, std::int64_t bytes);
+
 }  // namespace files

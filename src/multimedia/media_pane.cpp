@@ -9,6 +9,7 @@
 #include "display/grid_geometry.h"
 #include "display/writing.h"
 #include "document/crossword_state.h"
+#include "files/binary_file.h"
 #include "files/text_file.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/toolkit/events/program_end.h"
@@ -63,18 +64,13 @@ void ShowPicture() {
   Display().Visible(true);
 }
 
-/// The lines of the temporary file, each closed by CR LF; one empty line for an empty file.
+/// The temporary file, with CR LF also behind its last line; nothing if it cannot be read.
 std::string ReadText() {
-  std::string text;
-  pass_over([&] {
-    files::TextReader file(glavni.media_temp);
-    do {
-      std::string line;
-      pass_over([&] { line = file.Line(); });
-      text.append(line).append("\r\n");
-    } while (!file.AtEnd() && text.size() < longest_text);
-  });
-  if (text.size() > longest_text) text.resize(longest_text);
+  std::string text(longest_text, '\0');
+  const int failed =
+      pass_over([&] { text.resize(files::BinaryReader(glavni.media_temp).Get(1, text).size()); });
+  if (failed != 0) return {};
+  if (text.size() < longest_text && !text.ends_with("\r\n")) text += "\r\n";
   return text;
 }
 
@@ -118,7 +114,8 @@ void Show(Medium medium) {
 /// Whether the file of a path is a medium in the program's folder, to be deleted when it is no
 /// longer on show.
 bool IsTemporaryMedium(std::string_view path) {
-  return path.starts_with(glavni.app_staza) && MayNameMedium(path.substr(glavni.app_staza.size()));
+  return path.starts_with(glavni.app_staza) &&
+         KindOfMedium(path.substr(glavni.app_staza.size())) != nullptr;
 }
 
 }  // namespace
@@ -137,7 +134,8 @@ void prikazi_media(const std::string& tip) {
 void otvori_media() {
   zatvori_mci();
   auto& device = frm_glavni->mm_media;
-  // A medium that has played to its end has no type any more, and is opened on the same device.
+  // A medium that does not play, or has played to its end, has no type: a click closes its pane.
+  // It is opened again on the same device.
   const MediaKind* const kind = FindMediaKind(glavni.media_tip);
   if (kind != nullptr) device.DeviceType(DeviceOf(kind->medium));
   if (glavni.media_tip == "avi") {
@@ -146,8 +144,8 @@ void otvori_media() {
     device.hWndDisplay(glavni.media_hwnd);
   }
   device.FileName(glavni.app_staza + glavni.media_fajl);
-  pass_over([&] { device.Command("Open"); });
-  if (glavni.media_gotovo == 1) {
+  const bool failed = pass_over([&] { device.Command("Open"); }) != 0;
+  if (glavni.media_gotovo == 1 || failed) {
     glavni.media_tip.clear();
     glavni.media_gotovo = 0;
   }

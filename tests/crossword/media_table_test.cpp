@@ -83,13 +83,13 @@ TEST_F(MediaTable, FollowsNoLinkAndNamesNoOtherFile) {
   EXPECT_EQ(folder.Get("velika.qvm"), "crossword");
 
   for (const std::string name : {"kit.bmp", "GRAD.TXT", "a.b.wav", " .mid", "\xC6.avi"})
-    EXPECT_TRUE(MayNameMedium(name)) << name;
+    EXPECT_TRUE(KindOfMedium(name)) << name;
   for (const std::string name :
        {"", ".", "..", "../kit.bmp", "..\\kit.bmp", "c:kit.bmp", "kalvon", "a.htm", "qt.conf",
         "m_kalvon_ini.txt", "M_KALVON_INI.TXT", "novi.qvm", "drugi.QVD", "a/b.txt", "bmp"})
-    EXPECT_FALSE(MayNameMedium(name)) << name;
-  EXPECT_FALSE(MayNameMedium(std::string(255, 'a').append(".txt")));
-  EXPECT_FALSE(MayNameMedium(std::string("a\0.txt", 6)));
+    EXPECT_FALSE(KindOfMedium(name)) << name;
+  EXPECT_FALSE(KindOfMedium(std::string(255, 'a').append(".txt")));
+  EXPECT_FALSE(KindOfMedium(std::string("a\0.txt", 6)));
 }
 
 }  // namespace

@@ -58,4 +58,20 @@ TEST_F(MediaPack, TouchesNoFileButTheMedium) {
   }
 }
 
+TEST_F(MediaPack, KeepsWhatIsTooLargeAndGivesNoRestBehindTheLastChunkOfASound) {
+  glavni.pret_x1 = glavni.pret_y1 = 1;
+  const std::string wave("RIFF....WAVEfmt \2\0\0\0..data\3\0\0\0abc", 33);
+  const std::tuple<const char*, std::string, std::size_t, std::string> rows[] = {
+      {"zvuk.wav", wave + '\0', 34, wave},
+      {"zvuk.wav", wave + std::string(9, '\0'), 42, wave + std::string(9, '\0')},
+      {"tekst.txt", wave + '\0', 34, wave + '\0'},
+      {"muzika.mid", wave, (1 << 20) + 1, "none"}};
+  for (const auto& [name, packed, size, cut] : rows) {
+    WriteFile("zima1001.qvd", packed);
+    glavni.media_sadrzaj.Mutable(1) = '/' + std::string(name) + '/' + std::to_string(size);
+    EXPECT_EQ(Extract(name), cut) << name;
+    zatvori_media();
+  }
+}
+
 }  // namespace kalvon::testing

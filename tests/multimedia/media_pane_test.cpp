@@ -58,11 +58,17 @@ TEST_F(MediaPaneTest, LiesOverTheListOfTheWordsDirectionAndShowsTheClueWhateverT
       EXPECT_FALSE(Widget(content)->isVisible()) << content;
   }
   const std::string wave = DataFile("tone.wav");
-  const std::pair<const char*, std::string> refused[] = {
-      {"zvuk.wav", wave.substr(0, 12)}, {"film.avi", wave}, {"muzika.mid", wave}};
+  std::string large = DataFile("film.avi");
+  large.replace(large.find("strf") + 12, 2, "\x88\x13");  // 5000 pixels wide.
+  const std::pair<const char*, std::string> refused[] = {{"zvuk.wav", wave.substr(0, 12)},
+                                                         {"film.avi", wave},
+                                                         {"film.avi", large},
+                                                         {"muzika.mid", wave}};
   for (const auto& [name, bytes] : refused) {
     Show(name, bytes);
     EXPECT_FALSE(BarButton("play")->isEnabled() || Plays()) << name;
+    Click("pic_media(4)");
+    ExpectOpen(false, name);
   }
 }
 
@@ -89,6 +95,8 @@ TEST_F(MediaPaneTest, ShowsTheLinesOfATextWithItsDigraphs) {
     EXPECT_EQ(Widget("txt_media(1)")->geometry(), QRect(7, 50, 162, 154));
     frm_glavni->txt_media(1).Left(157);
   }
+  Show("tekst.txt", std::string(17 << 20, 'a'));
+  EXPECT_EQ(frm_glavni->txt_media(1).Text().size(), 256U << 10);
   Show("nema.txt");
   EXPECT_EQ(frm_glavni->txt_media(1).Text(), "");
 }
@@ -121,7 +129,7 @@ TEST_F(MediaPaneTest, ARightClickOnAClueShowsItsMediumAndAnyClickClosesWhatIsNoV
 
 TEST_F(MediaPaneTest, EachKindPlaysToItsEndAndAVideoIsClosedByAClickOnlyThen) {
   for (const char* sound : {"tone.wav", "melody.mid"}) {
-    Show(sound, DataFile(sound));
+    Show('\xE6' + std::string(sound), DataFile(sound));
     EXPECT_TRUE(Plays() && HasEnded()) << sound;
   }
   frm_glavni->pic_media(5).Width(300);  // As a picture may have left it.

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QUrl>
 #include <span>
@@ -64,6 +65,11 @@ QString Filled(const QString& word, const QString& address) {
   return filled + word.mid(end);
 }
 
+const QProcessEnvironment& RememberedEnvironment() {
+  static const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  return environment;
+}
+
 /// Starts a program of a desktop entry on an address, or with an empty one on nothing, and does not
 /// wait. False if it could not be started.
 bool StartProgram(const QString& command_line, const QString& address) {
@@ -72,8 +78,11 @@ bool StartProgram(const QString& command_line, const QString& address) {
   words.removeAll(QString());
   if (words.isEmpty()) return false;
   if (!address.isEmpty() && words.filter(address).isEmpty()) words << address;
-  const QString program = words.takeFirst();
-  return QProcess::startDetached(program, words);
+  QProcess program;
+  program.setProcessEnvironment(RememberedEnvironment());
+  program.setProgram(words.takeFirst());
+  program.setArguments(words);
+  return program.startDetached();
 }
 
 /// The name of its desktop entry.
@@ -134,6 +143,8 @@ class DesktopBrowserHost : public BrowserHost {
 std::unique_ptr<BrowserHost> host_in_use;
 
 }  // namespace
+
+void RememberEnvironment() { RememberedEnvironment(); }
 
 BrowserHost& CurrentBrowserHost() {
   if (!host_in_use) host_in_use = std::make_unique<DesktopBrowserHost>();

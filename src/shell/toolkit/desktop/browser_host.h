@@ -31,6 +31,10 @@ class BrowserHost {
   virtual void Start(const std::string& command_line) = 0;
 };
 
+/// Keeps the environment of this moment for the programs that are started: what the program sets
+/// later is for itself.
+void RememberEnvironment();
+
 /// The one in use: at first that of the desktop, whose default browser it knows by its desktop
 /// entry.
 BrowserHost& CurrentBrowserHost();

@@ -2,7 +2,6 @@
 #include "shell/toolkit/drawing/picture.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QtEndian>
@@ -11,23 +10,21 @@
 #include <span>
 #include <utility>
 
-#include "files/host_paths.h"
+#include "files/descriptor.h"
 #include "files/run_time_error.h"
 
 namespace toolkit {
 
 namespace {
 
-/// Pixels to a side. A few packed bytes can stand for a picture that fills the memory.
-constexpr qint64 largest_side = 4096;
-
 /// What the head of a bitmap file says.
 struct BitmapHead {
   qint64 width;
   qint64 height;
-  int bits;
-  qint64 bytes;     ///< That the pixels take up.
-  qint64 bytes_at;  ///< Where they begin.
+  qint64 bits;          ///< Of a pixel.
+  bool run_lengths;     ///< Pixels are packed, and a run may skip some.
+  qint64 packed_bytes;  ///< That packed pixels take up.
+  qint64 bytes_at;      ///< Where the pixels begin.
 };
 
 /// A number in the head of a bitmap file, which holds enough bytes for it.
@@ -37,26 +34,31 @@ qint64 NumberAt(const QByteArray& bytes, qsizetype at) {
 }
 
 BitmapHead HeadOf(const QByteArray& bytes) {
-  BitmapHead head{NumberAt<qint32>(bytes, 18), std::abs(NumberAt<qint32>(bytes, 22)),
-                  static_cast<int>(NumberAt<quint16>(bytes, 28)), 0, NumberAt<quint32>(bytes, 10)};
+  const qint64 bytes_at = NumberAt<quint32>(bytes, 10);
   constexpr int oldest = 12;  // The head of OS/2 has small numbers, and pixels that are not packed.
-  const bool is_oldest = NumberAt<quint32>(bytes, 14) == oldest;
-  if (is_oldest) {
-    head.width = NumberAt<quint16>(bytes, 18);
-    head.height = NumberAt<quint16>(bytes, 20);
-    head.bits = static_cast<int>(NumberAt<quint16>(bytes, 24));
+  if (NumberAt<quint32>(bytes, 14) == oldest) {
+    return {.width = NumberAt<quint16>(bytes, 18),
+            .height = NumberAt<quint16>(bytes, 20),
+            .bits = NumberAt<quint16>(bytes, 24),
+            .run_lengths = false,
+            .packed_bytes = 0,
+            .bytes_at = bytes_at};
   }
-  const qint64 packing = is_oldest ? 0 : NumberAt<quint32>(bytes, 30);
-  const bool run_lengths = packing == 1 || packing == 2;
-  head.bytes = run_lengths ? NumberAt<quint32>(bytes, 34)
-                           : (head.width * head.bits + 31) / 32 * 4 * head.height;
-  return head;
+  const qint64 packing = NumberAt<quint32>(bytes, 30);
+  return {.width = NumberAt<qint32>(bytes, 18),
+          .height = std::abs(NumberAt<qint32>(bytes, 22)),
+          .bits = NumberAt<quint16>(bytes, 28),
+          .run_lengths = packing == 1 || packing == 2,
+          .packed_bytes = NumberAt<quint32>(bytes, 34),
+          .bytes_at = bytes_at};
 }
 
 /// Whether the file holds all the pixels of which its head speaks.
 bool IsWhole(const BitmapHead& head, qint64 file_size) {
-  return head.width > 0 && head.width <= largest_side && head.height > 0 &&
-         head.height <= largest_side && file_size >= head.bytes_at + head.bytes;
+  const auto fits = [](qint64 side) { return side > 0 && side <= largest_side; };
+  if (!fits(head.width) || !fits(head.height)) return false;
+  const qint64 plain_bytes = (head.width * head.bits + 31) / 32 * 4 * head.height;
+  return file_size >= head.bytes_at + (head.run_lengths ? head.packed_bytes : plain_bytes);
 }
 
 /// The five or six bits of a shade leave the lowest ones empty, so that white is a little gray.
@@ -68,21 +70,27 @@ void SpreadShades(QImage& image) {
   }
 }
 
-QImage ReadBitmap(const QString& host_path) {
+QImage ReadBitmap(QFile& file) {
   constexpr qsizetype head_size = 38;
-  QFile file(host_path);
-  if (!file.open(QFile::ReadOnly)) return {};
   const QByteArray bytes = file.peek(head_size);
   if (bytes.size() < head_size || !bytes.startsWith("BM")) return {};
   const BitmapHead head = HeadOf(bytes);
   if (!IsWhole(head, file.size())) return {};
-  QImage image = QImageReader(&file, "bmp").read().convertToFormat(QImage::Format_RGB32);
+  QImage image;
+  if (head.run_lengths) {
+    // The host's decoder writes into an image of this format, and leaves out the skipped pixels.
+    image = QImage(static_cast<int>(head.width), static_cast<int>(head.height),
+                   QImage::Format_Indexed8);
+    image.fill(0);
+  }
+  if (!QImageReader(&file, "bmp").read(&image)) return {};
+  image.convertTo(QImage::Format_RGB32);
   if (head.bits == 16) SpreadShades(image);
   return image;
 }
 
-Picture ReadPicture(const QString& host_path) {
-  auto image = std::make_shared<const QImage>(ReadBitmap(host_path));
+Picture ReadPicture(QFile& file) {
+  auto image = std::make_shared<const QImage>(ReadBitmap(file));
   if (image->isNull()) throw files::RuntimeError(files::error::invalid_picture);
   return Picture(std::move(image));
 }
@@ -91,13 +99,16 @@ Picture ReadPicture(const QString& host_path) {
 
 Picture LoadPicture(const std::string& path) {
   if (path.empty()) return {};
-  const QString host_path = QFile::decodeName(files::HostPath(path).c_str());
-  if (!QFileInfo(host_path).isFile()) throw files::RuntimeError(files::error::file_not_found);
-  return ReadPicture(host_path);
+  QFile file;
+  if (!file.open(files::OpenForReading(path), QFile::ReadOnly, QFile::AutoCloseHandle))
+    throw files::RuntimeError(files::error::path_file_access);
+  return ReadPicture(file);
 }
 
 Picture BuiltInPicture(const std::string& name) {
-  return ReadPicture(QStringLiteral(":/pictures/") + QString::fromStdString(name));
+  QFile file(QStringLiteral(":/pictures/") + QString::fromStdString(name));
+  if (!file.open(QFile::ReadOnly)) throw files::RuntimeError(files::error::file_not_found);
+  return ReadPicture(file);
 }
 
 }  // namespace toolkit

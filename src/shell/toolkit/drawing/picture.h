@@ -8,6 +8,10 @@ class QImage;
 
 namespace toolkit {
 
+/// Pixels to a side that a picture or a film has at most: a few packed bytes can stand for one that
+/// fills the memory.
+inline constexpr int largest_side = 4096;
+
 /// An image, shared and never changed; the empty one is no picture.
 class Picture {
  public:
@@ -22,7 +26,7 @@ class Picture {
 };
 
 /// The image of a bitmap file; an empty path gives no picture.
-/// Error 53 if there is no such file, 481 if it holds no image.
+/// Error 53 if there is no such file, 75 if it cannot be read, 481 if it holds no image.
 Picture LoadPicture(const std::string& path);
 
 /// One of the pictures that are built into the program, by its file name.

@@ -118,6 +118,17 @@ class SingleLine : public TypedField<QLineEdit> {
   bool flat_ = false;
 };
 
+/// Whether some word is so long that it is none, but bytes of another kind of file.
+bool HasEndlessWord(const QString& text) {
+  constexpr int longest_word = 1000;  // Characters.
+  int length = 0;
+  return std::ranges::any_of(text, [&length](QChar character) {
+    const bool ends_word = QLatin1String(" \t\r\n").contains(character);
+    length = ends_word ? 0 : length + 1;
+    return length > longest_word;
+  });
+}
+
 class ManyLines : public TypedField<QPlainTextEdit> {
  public:
   explicit ManyLines(TextBox& box) : TypedField(box) {
@@ -131,7 +142,13 @@ class ManyLines : public TypedField<QPlainTextEdit> {
   }
 
   [[nodiscard]] QString Shown() const override { return toPlainText(); }
-  void Show(const QString& text, int /*typed_at_most*/) override { setPlainText(text); }
+  void Show(const QString& text, int /*typed_at_most*/) override {
+    clear();  // The mode of this text would lay the text before it out once more.
+    // At each line the host looks for the end of the word.
+    setWordWrapMode(HasEndlessWord(text) ? QTextOption::WrapAnywhere
+                                         : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setPlainText(text);
+  }
   void Lock() override {
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }

@@ -2,17 +2,16 @@
 #include "shell/toolkit/media/media_control.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QToolButton>
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
-#include "files/host_paths.h"
+#include "files/descriptor.h"
 #include "files/run_time_error.h"
 #include "shell/toolkit/events/program_end.h"
+#include "shell/toolkit/media/media_backend_p.h"
+#include "shell/toolkit/media/media_device_p.h"
 #include "shell/toolkit/media/media_player_p.h"
 #include "shell/toolkit/media/window_handles_p.h"
 
@@ -21,44 +20,6 @@ namespace toolkit {
 namespace {
 
 using State = MediaPlayer::State;
-
-/// A device, and the marks by which it knows its files: at the beginning, and at byte 8.
-struct Device {
-  std::string_view type;
-  std::string_view mark;
-  std::string_view kind;
-  bool shows_video;
-};
-
-constexpr Device devices[] = {
-    {"WaveAudio", "RIFF", "WAVE", false},
-    {"Sequencer", "MThd", "", false},
-    {"AVIVideo", "RIFF", "AVI ", true},
-};
-
-/// Files come from strangers, and the host's player knows kinds that fetch others from afar: only
-/// what the device is meant for reaches it.
-bool Knows(const Device& device, const QString& host_path) {
-  constexpr qsizetype kind_at = 8;
-  QFile file(host_path);
-  if (!file.open(QFile::ReadOnly)) return false;
-  const QByteArray head = file.read(kind_at + 4);
-  const auto begins = [](const QByteArray& bytes, std::string_view mark) {
-    return bytes.startsWith(QByteArrayView(mark.data(), static_cast<qsizetype>(mark.size())));
-  };
-  return begins(head, device.mark) && begins(head.mid(kind_at), device.kind);
-}
-
-const Device* DeviceOfType(std::string_view type) {
-  const auto* found = std::ranges::find(devices, type, &Device::type);
-  return found == std::end(devices) ? nullptr : found;
-}
-
-QString HostFile(const std::string& path) {
-  QString host_path = QFile::decodeName(files::HostPath(path).c_str());
-  if (!QFileInfo(host_path).isFile()) throw files::RuntimeError(files::error::file_not_found);
-  return host_path;
-}
 
 }  // namespace
 
@@ -125,9 +86,11 @@ void MediaControl::Command(std::string_view command) {
 
 void MediaControl::Open() {
   Close();
-  const QString host_path = HostFile(file_name_);
-  const Device* device = DeviceOfType(device_type_);
-  if (device == nullptr || !Knows(*device, host_path))
+  auto file = std::make_unique<QFile>();
+  const bool opened =
+      file->open(files::OpenForReading(file_name_), QFile::ReadOnly, QFile::AutoCloseHandle);
+  const MediaDevice* device = FindMediaDevice(device_type_);
+  if (!opened || device == nullptr || !Takes(*device, *file) || !MediaBackendIsThere())
     throw files::RuntimeError(files::error::device_unavailable);
 
   auto* display = device->shows_video ? dynamic_cast<Surface*>(WidgetOf(display_)) : nullptr;
@@ -136,7 +99,7 @@ void MediaControl::Open() {
   player->state_changed = [this] { bar().ShowState(player_->state()); };
   player->finished = [this] { PlayEnded(); };
   // An event that comes during the wait may close the device, or end the program.
-  const bool ready = player->Open(host_path);
+  const bool ready = player->Open(std::move(file));
   if (Ended()) throw ProgramEnd{};
   if (player_ == player && !ready) Close();
   if (player_ != player) throw files::RuntimeError(files::error::device_unavailable);

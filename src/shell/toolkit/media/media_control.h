@@ -27,10 +27,10 @@ class MediaControl : public Control {
 
   /// "Open" gets the device ready on the start of the file. It always waits until then, for a few
   /// seconds at most, and takes no input of the user meanwhile; it shares the device with no other
-  /// control. Error 53 if there is no such file, 68 if the device cannot play it; ends the
-  /// procedure that called it if the program ends meanwhile. "Play" starts playing and returns.
-  /// Error 68 if nothing is open. "close" stops and lets go of the file; nothing need be open.
-  /// Error 5 for any other command.
+  /// control. Error 53 if there is no such file, 75 if it cannot be read, 68 if the device cannot
+  /// play it; ends the procedure that called it if the program ends meanwhile. "Play" starts
+  /// playing and returns. Error 68 if nothing is open. "close" stops and lets go of the file;
+  /// nothing need be open. Error 5 for any other command.
   void Command(std::string_view command);
 
   /// A play has come to an end: of itself, by the button stop, or by a failure. Comes from the

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/toolkit/drawing/picture.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/media/media_player_p.h"
 
@@ -18,11 +19,6 @@ namespace {
 constexpr int longest_wait = 5000;
 
 }  // namespace
-
-MediaBackend::MediaBackend() {
-  // This one knows MIDI and the old video formats, and it plays on without a sound card.
-  if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND")) qputenv("QT_MEDIA_BACKEND", "gstreamer");
-}
 
 MediaPlayer::MediaPlayer(Surface* display)
     : display_(display), player_(std::make_unique<QMediaPlayer>()) {
@@ -48,9 +44,11 @@ bool MediaPlayer::Opening() const {
   return player_ && player_->mediaStatus() == QMediaPlayer::LoadingMedia;
 }
 
-bool MediaPlayer::Open(const QString& host_path) {
+bool MediaPlayer::Open(std::unique_ptr<QFile> file) {
   if (!player_) return false;
-  player_->setSource(QUrl::fromLocalFile(host_path));
+  file_ = std::move(file);
+  // An address cannot spell the bytes of every name; the host's number of an open file needs none.
+  player_->setSource(QUrl::fromLocalFile(QStringLiteral("/dev/fd/%1").arg(file_->handle())));
   QTimer timeout;
   timeout.setSingleShot(true);
   timeout.start(longest_wait);
@@ -77,6 +75,7 @@ void MediaPlayer::Close() {
   running_ = false;
   // A player that has failed takes its time to stop, but none to go.
   player_.reset();
+  file_.reset();
 }
 
 MediaPlayer::State MediaPlayer::state() const {
@@ -92,7 +91,6 @@ MediaPlayer::State MediaPlayer::state() const {
 }
 
 void MediaPlayer::Show(const QVideoFrame& frame) {
-  constexpr int largest_side = 4096;  // Pixels; a larger frame would only fill the memory.
   if (std::max(frame.width(), frame.height()) > largest_side) return;
   QImage image = frame.toImage();
   // The frame that a player gives when it stops is empty; the last picture stays.

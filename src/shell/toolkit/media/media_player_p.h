@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFile>
 #include <QMediaPlayer>
 #include <QPointer>
 #include <QVideoSink>
@@ -11,12 +12,8 @@
 
 namespace toolkit {
 
-/// Chooses the library that plays. It must stand before all that uses Qt Multimedia.
-struct MediaBackend {
-  MediaBackend();
-};
-
-/// One medium, from its opening to its end. A callback may close it, but must not destroy it.
+/// One medium, from its opening to its end. A callback may close it, but must not destroy it. There
+/// must be a backend.
 class MediaPlayer {
  public:
   enum class State { closed, stopped, playing, paused };
@@ -28,7 +25,7 @@ class MediaPlayer {
 
   /// Opens a file and waits, without taking input of the user, until it can play; whether it can.
   /// Close ends the wait.
-  bool Open(const QString& host_path);
+  bool Open(std::unique_ptr<QFile> file);
   void Play();
   void Pause();
   void Stop();
@@ -46,9 +43,9 @@ class MediaPlayer {
   void EndPlay();
   void Show(const QVideoFrame& frame);
 
-  MediaBackend backend_;
   QPointer<Surface> display_;
   QVideoSink frames_;
+  std::unique_ptr<QFile> file_;
   std::unique_ptr<QMediaPlayer> player_;  ///< None once the medium is closed.
   bool running_ = false;                  ///< Playing, or paused while playing.
 };

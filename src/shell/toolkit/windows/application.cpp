@@ -80,6 +80,7 @@ bool CanBeWritten(const QString& folder) { return QFileInfo(folder).isWritable()
 }  // namespace
 
 Application::Application(int& argc, char** argv) {
+  RememberEnvironment();
   // A write beyond the limit of a file's size is a failed write, and not the end of the program.
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   // Nothing here is drawn by a graphics card, and looking for one takes time.

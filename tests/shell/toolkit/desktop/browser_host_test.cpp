@@ -15,11 +15,13 @@ namespace toolkit {
 namespace fs = std::filesystem;
 using files::pass_over;
 
-/// A stand-in for the default browser, which writes down each argument that it is started with.
+/// A stand-in for the default browser, which writes down each argument that it is started with,
+/// and what it gets of the program's own settings.
 class BrowserHostTest : public ::testing::Test {
  protected:
   BrowserHostTest() {
-    folder_.Put("moj citac", "#!/bin/sh\nprintf '%s\\n' \"$@\" kraj >>'" + folder_.Host("spisak'"));
+    folder_.Put("moj citac", "#!/bin/sh\nprintf '%s\\n' \"$@\" $QT_XCB_GL_INTEGRATION kraj >>'" +
+                                 folder_.Host("spisak'"));
     fs::permissions(folder_.Host("moj citac"), fs::perms::owner_all);
     fs::create_directories(entry_.parent_path());
     fs::create_directories(defaults_.parent_path());
