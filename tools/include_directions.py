@@ -39,7 +39,7 @@ ROWS = (
     Row(r"shell/toolkit/media/", TOOLKIT, HOST),
     Row(r"shell/toolkit/windows/", TOOLKIT, HOST),
     Row(r"shell/forms/", "shell/forms/|" + TOOLKIT),
-    Row(r"document/crossword_state\.", r"document/crossword_state\.|crossword/"),
+    Row(r"document/(crossword_state|news)\.", r"document/(crossword_state|news)\.|crossword/"),
     Row(r"display/"),
     Row(r"multimedia/"),
     Row(r"document/"),

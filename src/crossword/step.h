@@ -44,7 +44,7 @@ struct WordPlace {
 struct Step {
   StepKind kind = StepKind::word_entered;
   WordPlace word;
-  std::vector<LetterChange> changes;
+  std::vector<LetterChange> changes = {};
 
   bool operator==(const Step&) const = default;
 };

@@ -36,6 +36,7 @@ void prikazi_rec() {
 
   glavni.rec_tekst.clear();
   glavni.rec_polja.clear();
+  glavni.otkucano.clear();
   for (const GridCell& place : SelectedCells()) pass_over([&] { TakeLetter(place); });
 
   const int shown = std::min(static_cast<int>(glavni.rec_tekst.size()), letter_boxes);

@@ -41,6 +41,11 @@ void nadji_rec() {
   }
 }
 
+WordPlace SelectedWord() {
+  if (SelectedCells().empty()) return {};
+  return {{glavni.rec_x1, glavni.rec_y1}, glavni.smer};
+}
+
 std::vector<GridCell> SelectedCells() {
   std::vector<GridCell> cells;
   if (glavni.rec_x1 < 1 || glavni.rec_y1 < 1) return cells;

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "crossword/crossword.h"
+#include "crossword/step.h"
 
 namespace kalvon {
 
@@ -13,6 +13,9 @@ GridCell ClickedCell();
 /// Turns the direction, unless a clue was just clicked, and finds the word through the clicked cell
 /// of the view. Without a word start before the cell the selection comes out empty.
 void nadji_rec();
+
+/// Where the selected word stands.
+WordPlace SelectedWord();
 
 /// The cells of the selected word from first to last; none for an empty selection.
 std::vector<GridCell> SelectedCells();

@@ -32,6 +32,7 @@ void ForgetOldCrossword() {
   glavni.media_temp.clear();
   glavni.rec_tekst.clear();
   glavni.media_gotovo = 0;
+  glavni.istorija = {};
   frm_glavni->scr_hor.Value(0);
   frm_glavni->scr_ver.Value(0);
 }

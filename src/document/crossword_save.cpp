@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "document/crossword_save.h"
 
+#include <string>
+#include <utility>
+
+#include "crossword/installments.h"
 #include "crossword/writing.h"
 #include "document/crossword_state.h"
 #include "shell/toolkit/desktop/screen.h"
@@ -9,7 +13,15 @@ namespace kalvon {
 
 void snimi_ukrstenicu() {
   const toolkit::Hourglass hourglass;
-  WriteCrossword(glavni);
+  Vest vest = {.news = News::saved};
+  for (const auto [installment, error] : WriteCrossword(glavni)) {
+    if (error == 0)
+      glavni.snimljeno.Written(glavni, installment);
+    else
+      vest.news = News::save_failed;
+    vest.files.push_back({std::string(FileName(glavni.nast_staza(installment))), error});
+  }
+  glavni.vest = std::move(vest);
 }
 
 }  // namespace kalvon

@@ -6,8 +6,17 @@
 #include <vector>
 
 #include "crossword/crossword.h"
+#include "crossword/history.h"
+#include "crossword/saved_letters.h"
+#include "document/news.h"
 
 namespace kalvon {
+
+/// A place of the word in the editor, and the letter that stood there before one was typed.
+struct TypedPlace {
+  int place = 0;
+  char before = '_';
+};
 
 /// The loaded crossword, and all that the procedures remember between two events. View cells count
 /// from 1 to 15.
@@ -28,6 +37,12 @@ struct CrosswordState : Crossword {
   std::string rec_tekst;                  ///< Letters in the editor, "_" for an empty place.
   std::vector<GridCell> rec_polja;        ///< Cells that the letters in the editor belong to.
   Int16 rec_poz;                          ///< Index of the focused letter box.
+  std::vector<TypedPlace> otkucano;       ///< What was typed since the boxes were filled.
+
+  // Steps, and what the user is told.
+  History istorija;
+  SavedLetters snimljeno;
+  Vest vest;
 
   // Clue lists: (n, column, side), side 1 across and 2 down; column 1 text, 2 x, 3 y, 4 rows,
   // 5 media name.

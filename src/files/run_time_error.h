@@ -24,6 +24,7 @@ inline constexpr int path_file_access = 75;
 inline constexpr int path_not_found = 76;
 inline constexpr int no_application_answered = 282;
 inline constexpr int link_refused = 285;
+inline constexpr int invalid_file_format = 321;
 inline constexpr int no_such_control = 340;
 inline constexpr int invalid_property_value = 380;
 inline constexpr int invalid_picture = 481;

@@ -160,8 +160,14 @@ void ShowUnselected() {
 void ucitaj_ukrstenicu() {
   const toolkit::Hourglass hourglass;
   Crossword opened;
-  if (files::pass_over([&] { opened = OpenChosenCrossword(); }) != 0) return;
-  if (files::pass_over([&] { Show(std::move(opened)); }) != 0) ShowUnselected();
+  int error = files::pass_over([&] { opened = OpenChosenCrossword(); });
+  if (error == 0) {
+    error = files::pass_over([&] { Show(std::move(opened)); });
+    if (error != 0) ShowUnselected();
+    glavni.snimljeno = SavedLetters(glavni);
+  }
+  glavni.vest = {.news = error == 0 ? News::loaded : News::load_failed,
+                 .files = {{std::string(FileName(glavni.ukr_staza)), error}}};
 }
 
 }  // namespace kalvon

@@ -7,8 +7,6 @@
 #include "crossword/fields.h"
 #include "display/clue_highlight.h"
 #include "display/clue_page.h"
-#include "display/grid_geometry.h"
-#include "display/grid_view.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "document/media_pack.h"
@@ -44,31 +42,12 @@ void UnmarkWord() {
   glavni.smer = of_word;
 }
 
-/// Moves the view to a cell that it doesn't show, in as few directions as needed. Each bar repaints
-/// on its own, with the old word marked; the last painting leaves no mark.
-void BringIntoView(int x, int y) {
-  const bool column_shown = InView(x, glavni.pogled_x);
-  const bool row_shown = InView(y, glavni.pogled_y);
-  if (column_shown && row_shown) return;
-  if (!column_shown) {
-    glavni.pogled_x = FirstShown(x, glavni.ukr_sirina);
-    frm_glavni->scr_hor.Value(glavni.pogled_x - 1);
-  }
-  if (!row_shown) {
-    glavni.pogled_y = FirstShown(y, glavni.ukr_visina);
-    frm_glavni->scr_ver.Value(glavni.pogled_y - 1);
-  }
-  crtaj_ukrstenicu();
-}
-
 /// Selects the word of a list's direction that starts in a cell in view, by a click on its middle.
 void ClickFirstCell(int strana, int x, int y) {
   glavni.smer = strana;
   glavni.iz_liste = 1;
   glavni.prelaz = 1;
-  constexpr int middle = cell_pitch / 2;
-  klik_polje((x - glavni.pogled_x) * cell_pitch + middle,
-             (y - glavni.pogled_y) * cell_pitch + middle);
+  ClickCell(x, y);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "crossword/cell.h"
 #include "display/grid_view.h"
@@ -11,6 +12,7 @@
 #include "display/writing.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
+#include "solving/steps.h"
 
 namespace kalvon {
 
@@ -21,8 +23,15 @@ int EditableLetters() { return std::min(static_cast<int>(glavni.rec_tekst.size()
 
 void Write(int place, char letter, const std::string& shown) {
   if (place >= EditableLetters()) return;
-  glavni.rec_tekst[static_cast<std::size_t>(place)] = letter;
+  char& there = glavni.rec_tekst[static_cast<std::size_t>(place)];
+  if (there != letter) glavni.otkucano.push_back({place, there});
+  there = letter;
   frm_glavni->txt_rec(place).Text(shown);
+  glavni.vest = {.news = News::typed};
+}
+
+void Write(int place, char letter) {
+  Write(place, letter, letter == '_' ? "_" : ShownLetter(letter, ChosenWriting()));
 }
 
 void Back() {
@@ -33,7 +42,7 @@ void Forward() {
   if (glavni.rec_poz < EditableLetters() - 1) glavni.rec_poz = glavni.rec_poz + 1;
 }
 
-void Blank() { Write(glavni.rec_poz, '_', "_"); }
+void Blank() { Write(glavni.rec_poz, '_'); }
 
 void BlankAndBack() {
   Blank();
@@ -51,10 +60,11 @@ void Last() { glavni.rec_poz = std::max(EditableLetters() - 1, 0); }
 
 /// Enter: writes the word into the cells that it was read from, and shows the grid anew.
 void WriteBack() {
+  Step step = BeginStep(StepKind::word_entered);
   const std::size_t letters = std::min(glavni.rec_tekst.size(), glavni.rec_polja.size());
   for (std::size_t i = 0; i < letters; ++i) {
     const auto [x, y] = glavni.rec_polja[i];
-    std::string& cell = glavni.ukr_polja.Mutable(x, y, 1);
+    std::string cell = glavni.ukr_polja(x, y, 1);
     const char letter = glavni.rec_tekst[i];
     if (!IsLetterCell(cell)) continue;
     if (letter == '_') {
@@ -62,9 +72,26 @@ void WriteBack() {
     } else {
       cell.replace(1, UserLetter(cell).size(), 1, letter);  // The rest stays, whatever it is.
     }
+    ChangeCell(glavni, step, {x, y}, std::move(cell));
   }
   crtaj_ukrstenicu();
   oznaci_rec(0);
+  EndStep(std::move(step));
+}
+
+/// The place of the letter box that has the focus, or else at which the keys act.
+int FocusedPlace() {
+  for (int place = 0; place < EditableLetters(); ++place)
+    if (frm_glavni->txt_rec(place).HasFocus()) return place;
+  return glavni.rec_poz;
+}
+
+/// Puts letters into the boxes that were typed before these were filled anew.
+void TypeAgain(const std::string& typed) {
+  for (int place = 0; place < EditableLetters(); ++place) {
+    const char letter = typed[static_cast<std::size_t>(place)];
+    if (letter != glavni.rec_tekst[static_cast<std::size_t>(place)]) Write(place, letter);
+  }
 }
 
 struct Key {
@@ -95,6 +122,34 @@ void unos_znaka(int index, int key_code) {
   glavni.rec_poz = index;
   Forward();
   frm_glavni->txt_rec(glavni.rec_poz).SetFocus();
+}
+
+void resi_slovo() {
+  const int place = FocusedPlace();
+  if (place >= EditableLetters()) return;
+  const GridCell cell = glavni.rec_polja.at(static_cast<std::size_t>(place));
+  const std::string& text = glavni.ukr_polja(cell.x, cell.y, 1);
+  std::string typed = glavni.rec_tekst;
+  typed[static_cast<std::size_t>(place)] = text.front();
+  Step step = BeginStep(StepKind::letter_solved);
+  ChangeCell(glavni, step, cell, WithUserLetter(text, text.front()));
+  crtaj_ukrstenicu();
+  oznaci_rec(0);
+  TypeAgain(typed);
+  glavni.rec_poz = place;
+  Forward();
+  FocusLetters();
+  EndStep(std::move(step));
+}
+
+bool TakeBackTyped() {
+  if (glavni.otkucano.empty()) return false;
+  const auto [place, letter] = glavni.otkucano.back();
+  Write(place, letter);
+  glavni.otkucano.resize(glavni.otkucano.size() - 2);  // With what Write has just added.
+  glavni.rec_poz = place;
+  FocusLetters();
+  return true;
 }
 
 void unos_tastera(int /*index*/, int key_code) {

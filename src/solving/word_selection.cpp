@@ -8,10 +8,12 @@
 #include "crossword/cell.h"
 #include "crossword/direction.h"
 #include "display/grid_geometry.h"
+#include "display/grid_view.h"
 #include "display/selected_word.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "multimedia/media_pane.h"
+#include "shell/forms/frm_glavni.h"
 
 namespace kalvon {
 
@@ -64,11 +66,42 @@ void klik_polje(double x, double y) {
   oznaci_rec(1);
   glavni.iz_liste = 0;
   zatvori_media();
+  glavni.vest = {};
   glavni.pret_x1 = glavni.rec_x1;
   glavni.pret_y1 = glavni.rec_y1;
   glavni.pret_x2 = glavni.rec_x2;
   glavni.pret_y2 = glavni.rec_y2;
   glavni.prelaz_smer = glavni.smer;
+}
+
+bool BringIntoView(int x, int y) {
+  const bool column_shown = InView(x, glavni.pogled_x);
+  const bool row_shown = InView(y, glavni.pogled_y);
+  if (column_shown && row_shown) return false;
+  if (!column_shown) {
+    glavni.pogled_x = FirstShown(x, glavni.ukr_sirina);
+    frm_glavni->scr_hor.Value(glavni.pogled_x - 1);
+  }
+  if (!row_shown) {
+    glavni.pogled_y = FirstShown(y, glavni.ukr_visina);
+    frm_glavni->scr_ver.Value(glavni.pogled_y - 1);
+  }
+  crtaj_ukrstenicu();
+  return true;
+}
+
+void ClickCell(int x, int y) {
+  constexpr int middle = cell_pitch / 2;
+  klik_polje((x - glavni.pogled_x) * cell_pitch + middle,
+             (y - glavni.pogled_y) * cell_pitch + middle);
+}
+
+void SelectWord(const WordPlace& word) {
+  if (word.direction == 0) return;
+  const auto [x, y] = word.first;
+  if (BringIntoView(x, y)) oznaci_rec(0);
+  // The second click on a cell turns to its other word.
+  for (int clicks = 0; clicks < 2 && SelectedWord() != word; ++clicks) ClickCell(x, y);
 }
 
 }  // namespace kalvon

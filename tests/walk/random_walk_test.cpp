@@ -6,6 +6,9 @@
 #include <sstream>
 
 #include "letters/letter_conversion.h"
+#include "solving/next_clue.h"
+#include "solving/undo.h"
+#include "solving/word_editor.h"
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
@@ -33,6 +36,8 @@ const Action actions[] = {
     {main_form, 2, keeps, "cmd_glavni(5) cmd_glavni(6)"},
     {main_form, 2, ends, "cmd_glavni(3) cmd_glavni(4)"},
     {main_form, 1, ends, "cmd_glavni(2) Return"},
+    {main_form, 4, begins, "undo redo letter next"},
+    {main_form, 1, begins, "undo-all"},
     {help, 1, keeps, "cmd_glavni(6) pic_tekst(0) txt_rec1"},
     {dialog, 20, keeps, "File1"},
     {dialog, 5, keeps, "cmd_ucit(0)"},
@@ -92,6 +97,16 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
       frm_ucit_snimi->File1.ListIndex(Below(frm_ucit_snimi->File1.ListCount()));
     } else if (choice == "Dir1") {
       frm_ucit_snimi->Dir1.Change.Raise();
+    } else if (choice == "undo") {
+      ponisti();
+    } else if (choice == "redo") {
+      ponovi();
+    } else if (choice == "letter") {
+      resi_slovo();
+    } else if (choice == "next") {
+      sledeca_prazna();
+    } else if (choice == "undo-all") {
+      ExpectWayBackAndForth();
     } else if (auto* bar = Widget<QScrollBar>(choice)) {
       bar->triggerAction(QAbstractSlider::SliderAction(1 + Below(6)));
     } else if (QWidget* control = Widget(choice); control != nullptr && control->isVisible()) {
@@ -108,8 +123,20 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
     if (choice == "cmd_glavni(2)" || choice == "crash") {
       Restart();
       loaded_.clear();
+      start_.clear();
       ClickButton("cmd_glavni(0)");
     }
+  }
+
+  /// What was made since the load goes back to what the files held, and forth to what it was.
+  void ExpectWayBackAndForth() {
+    while (CanRedo()) ponovi();
+    const auto end = Grid();
+    while (CanUndo()) ponisti();
+    EXPECT_EQ(Grid(), start_);
+    EXPECT_EQ(glavni.snimljeno.HoldAll(glavni), Grid() == files_[loaded_]);
+    while (CanRedo()) ponovi();
+    EXPECT_EQ(Grid(), end);
   }
 
   static std::vector<std::string> Grid() {
@@ -123,6 +150,7 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
   void ExpectLoaded(const std::string& name, const std::vector<std::string>& before) {
     const bool loads = !name.empty() && name != "losa.qvm";
     if (loads) loaded_ = name.substr(0, 5);  // Installments differ behind it.
+    if (loads) start_ = Grid();
     EXPECT_EQ(Grid(), loads ? files_.try_emplace(loaded_, Grid()).first->second : before);
   }
 
@@ -142,6 +170,7 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
   std::mt19937 random_;
   bool typed_ = false;
   std::string loaded_;
+  std::vector<std::string> start_;  ///< What the crossword held when it was loaded.
   std::map<std::string, std::vector<std::string>> files_;  ///< What each crossword's files hold.
 };
 

@@ -115,6 +115,8 @@ void Control::SetFocus() {
   widget_->setFocus();
 }
 
+bool Control::HasFocus() const { return widget_->hasFocus(); }
+
 void Control::FontName(const std::string& name) {
   if (Replace(font_name_, name)) FontChanged();
 }

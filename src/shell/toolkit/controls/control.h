@@ -69,6 +69,7 @@ class Control {
   /// Gives the control the keyboard focus. Error 5 if it cannot take it: it or a parent is hidden
   /// or disabled, or its form is. GotFocus follows from the event loop.
   void SetFocus();
+  [[nodiscard]] bool HasFocus() const;
 
   [[nodiscard]] const std::string& FontName() const { return font_name_; }
   void FontName(const std::string& name);

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "crossword/step.h"
+
+namespace kalvon {
+
+/// What happened last, as far as the user is told of it.
+enum class News {
+  none,
+  loaded,
+  load_failed,
+  saved,
+  save_failed,
+  typed,  ///< Letters are in the boxes that Enter will write.
+  made,   ///< A step.
+  undone,
+  redone,
+  no_empty_cell,
+};
+
+/// A file that was written or read, and how that went.
+struct FileNews {
+  std::string name;
+  int error = 0;  ///< 0 if it went well.
+};
+
+/// The news and what it is about.
+struct Vest {
+  News news = News::none;
+  StepKind step = StepKind::word_entered;
+  std::vector<FileNews> files = {};
+};
+
+}  // namespace kalvon

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "solving/steps.h"
+
+#include <utility>
+
+#include "display/selected_word.h"
+#include "document/crossword_state.h"
+
+namespace kalvon {
+
+Step BeginStep(StepKind kind) { return {.kind = kind, .word = SelectedWord()}; }
+
+void EndStep(Step step) {
+  if (step.changes.empty()) return;
+  glavni.vest = {.news = News::made, .step = step.kind};
+  glavni.istorija.Add(std::move(step));
+}
+
+}  // namespace kalvon
