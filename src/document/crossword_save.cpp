@@ -7,6 +7,7 @@
 #include "crossword/installments.h"
 #include "crossword/writing.h"
 #include "document/crossword_state.h"
+#include "document/facts.h"
 #include "shell/toolkit/desktop/screen.h"
 
 namespace kalvon {
@@ -22,6 +23,7 @@ void snimi_ukrstenicu() {
     vest.files.push_back({std::string(FileName(glavni.nast_staza(installment))), error});
   }
   glavni.vest = std::move(vest);
+  UpdateFacts();
 }
 
 }  // namespace kalvon

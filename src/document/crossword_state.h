@@ -7,6 +7,7 @@
 
 #include "crossword/crossword.h"
 #include "crossword/history.h"
+#include "crossword/letter_counts.h"
 #include "crossword/saved_letters.h"
 #include "document/news.h"
 
@@ -42,6 +43,8 @@ struct CrosswordState : Crossword {
   // Steps, and what the user is told.
   History istorija;
   SavedLetters snimljeno;
+  LetterCounts slova;
+  bool izmenjeno = false;  ///< Whether the letters differ from those in the files.
   Vest vest;
 
   // Clue lists: (n, column, side), side 1 across and 2 down; column 1 text, 2 x, 3 y, 4 rows,

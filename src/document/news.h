@@ -19,7 +19,9 @@ enum class News {
   made,   ///< A step.
   undone,
   redone,
+  counted,  ///< Wrong letters.
   no_empty_cell,
+  about,  ///< The program.
 };
 
 /// A file that was written or read, and how that went.
@@ -33,6 +35,7 @@ struct Vest {
   News news = News::none;
   StepKind step = StepKind::word_entered;
   std::vector<FileNews> files = {};
+  int count = 0;
 };
 
 }  // namespace kalvon

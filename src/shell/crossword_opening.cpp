@@ -18,6 +18,7 @@
 #include "display/word_highlight.h"
 #include "document/crossword_load.h"
 #include "document/crossword_state.h"
+#include "document/facts.h"
 #include "document/load_progress.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
@@ -165,6 +166,7 @@ void ucitaj_ukrstenicu() {
     error = files::pass_over([&] { Show(std::move(opened)); });
     if (error != 0) ShowUnselected();
     glavni.snimljeno = SavedLetters(glavni);
+    UpdateFacts();
   }
   glavni.vest = {.news = error == 0 ? News::loaded : News::load_failed,
                  .files = {{std::string(FileName(glavni.ukr_staza)), error}}};

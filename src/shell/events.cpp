@@ -15,6 +15,7 @@
 #include "shell/load_dialog.h"
 #include "shell/options_dialog.h"
 #include "shell/startup.h"
+#include "shell/strip.h"
 #include "shell/toolkit/windows/application.h"
 #include "solving/clue_selection.h"
 #include "solving/word_editor.h"
@@ -118,6 +119,7 @@ void BindHelp(FrmHelp& form) {
 }  // namespace
 
 void BindEvents() {
+  toolkit::AfterEvents([] { UpdateStrip(); });
   frm_glavni.Load = [](FrmGlavni& form) {
     BindMainForm(form);
     pokreni();
@@ -128,6 +130,7 @@ void BindEvents() {
 }
 
 void UnloadForms() {
+  toolkit::AfterEvents({});
   frm_help.Unload();
   frm_opcije.Unload();
   frm_ucit_snimi.Unload();

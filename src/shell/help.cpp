@@ -17,9 +17,16 @@ void EnableCommands(bool enabled) {
 
 }  // namespace
 
-void OpenManual() {
-  frm_help->txtURL.Text(files::LowerCase(glavni.app_staza) + "uputstvo\\pocetak.htm");
+void OpenManual(const std::string& page) {
+  frm_help->txtURL.Text(files::LowerCase(glavni.app_staza) + "uputstvo\\" + page);
   pokreni_browser(frm_help->txtURL.Text());
+}
+
+void ShowKeys() {
+  if (glavni.jezik == 0)
+    OpenManual("tastatura.htm");
+  else
+    otvori_pomoc();
 }
 
 void otvori_pomoc() {

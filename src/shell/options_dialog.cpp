@@ -8,6 +8,7 @@
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
+#include "shell/strip.h"
 #include "solving/puzzle_commands.h"
 
 namespace kalvon {
@@ -75,6 +76,7 @@ void komanda_opcije(int index) {
   switch (index) {
     case option_command::go_on:
       primeni_font();
+      ShowStripMenu();
       return sakrij_opcije();
     case option_command::erase_all:
       return operacija_celine(PuzzleOperation::erase_all);

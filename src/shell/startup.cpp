@@ -13,6 +13,7 @@
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/options_dialog.h"
+#include "shell/strip.h"
 #include "shell/toolkit/desktop/screen.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
@@ -81,6 +82,8 @@ void Start() {
   glavni.pomoc_otvorena = 0;
   ChooseFont();
   if (glavni.jezik == 1) WriteEnglishCaptions();
+  ShowStripMenu();
+  UpdateStrip();
   glavni.forma_sirina = frm_glavni->Width();
   glavni.forma_visina = frm_glavni->Height();
 }

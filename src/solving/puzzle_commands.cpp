@@ -83,6 +83,7 @@ void operacija_celine(PuzzleOperation operation) {
 
   if (operation == PuzzleOperation::count_wrong) {
     frm_opcije->Label2.Caption(std::to_string(wrong_letters));
+    glavni.vest = {.news = News::counted, .count = wrong_letters};
   } else {
     ShowChange();
     EndStep(std::move(step));

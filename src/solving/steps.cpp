@@ -5,6 +5,7 @@
 
 #include "display/selected_word.h"
 #include "document/crossword_state.h"
+#include "document/facts.h"
 
 namespace kalvon {
 
@@ -14,6 +15,7 @@ void EndStep(Step step) {
   if (step.changes.empty()) return;
   glavni.vest = {.news = News::made, .step = step.kind};
   glavni.istorija.Add(std::move(step));
+  UpdateFacts();
 }
 
 }  // namespace kalvon

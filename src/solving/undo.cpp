@@ -4,6 +4,7 @@
 #include "display/grid_view.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
+#include "document/facts.h"
 #include "solving/word_editor.h"
 #include "solving/word_selection.h"
 
@@ -18,6 +19,7 @@ void Make(const Step& step, News news) {
   oznaci_rec(0);
   SelectWord(step.word);
   glavni.vest = {.news = news, .step = step.kind};
+  UpdateFacts();
 }
 
 }  // namespace

@@ -42,7 +42,8 @@ FrmGlavni::FrmGlavni()
           {"mm_media", {8, 180, 92, 23}, 26}),
       pic_sirina(*this, {"pic_sirina", {-16, 33, 21, 15}, 3}),
       lbl_sirina(*this, {"lbl_sirina", {-25, 16, 32, 13}, 2, "Label1"}),
-      Label2(*this, {"Label2", {612, 28, 24, 14}, 60, "Re~"}) {
+      Label2(*this, {"Label2", {612, 28, 24, 14}, 60, "Re~"}),
+      strip(AddStrip()) {
   Icon("kalvon.ico");
 
   // The column ruler reaches two rows into the buttons and letter boxes, which stand in front.

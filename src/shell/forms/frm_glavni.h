@@ -9,6 +9,7 @@
 #include "shell/toolkit/input/text_box.h"
 #include "shell/toolkit/media/media_control.h"
 #include "shell/toolkit/windows/form.h"
+#include "shell/toolkit/windows/strip.h"
 
 namespace kalvon {
 
@@ -57,6 +58,8 @@ class FrmGlavni : public toolkit::Form {
   toolkit::PictureBox pic_sirina;
   toolkit::Label lbl_sirina;
   toolkit::Label Label2;
+
+  toolkit::Strip& strip;
 };
 
 extern toolkit::FormHandle<FrmGlavni> frm_glavni;

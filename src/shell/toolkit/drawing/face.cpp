@@ -33,12 +33,17 @@ QStringList InstalledFonts(TextCode code) {
 
 /// The font of a capital that stands by itself and has an accent above. In a ring of the grid there
 /// is no more height than that of a plain capital, so it is lower, and as wide as the plain one.
-QFont Lowered(QFont font) {
-  constexpr double height = 14.0 / 17;
-  constexpr int width_in_percent = 115;
-  font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * height)));
-  font.setStretch(width_in_percent);
-  return font;
+QFont Lowered(const QFont& font) {
+  const auto height = [](const QFont& of, char16_t letter) {
+    return QFontMetrics(of).tightBoundingRect(QChar(letter)).height();
+  };
+  const int room = height(font, u'Z') + 1;
+  QFont lowered = font;
+  while (lowered.pixelSize() > 1 && height(lowered, u'\u017D') > room)
+    lowered.setPixelSize(lowered.pixelSize() - 1);
+  // A little narrower than the plain one: its strokes get wider too.
+  lowered.setStretch(95 * font.pixelSize() / lowered.pixelSize());
+  return lowered;
 }
 
 bool IsAccentedCapital(const QString& text) {

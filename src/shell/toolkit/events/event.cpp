@@ -1,15 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/events/event.h"
 
+#include <QScopedValueRollback>
 #include <exception>
 #include <iostream>
+#include <utility>
 
 #include "files/run_time_error.h"
 #include "shell/toolkit/events/program_end.h"
 
 namespace toolkit {
 
-void RunHandler(const std::function<void()>& handler) {
+namespace {
+
+int handlers_running = 0;
+
+std::function<void()>& ActionAfterEvents() {
+  static std::function<void()> action;
+  return action;
+}
+
+void RunQuietly(const std::function<void()>& handler) {
   if (Ended()) return;
   try {
     handler();
@@ -21,5 +32,17 @@ void RunHandler(const std::function<void()>& handler) {
     std::cerr << "kalvon: an event failed: " << failure.what() << '\n';
   }
 }
+
+}  // namespace
+
+void RunHandler(const std::function<void()>& handler) {
+  const QScopedValueRollback running(handlers_running, handlers_running + 1);
+  RunQuietly(handler);
+  if (handlers_running > 1 || !ActionAfterEvents()) return;
+  const auto action = ActionAfterEvents();
+  RunQuietly(action);
+}
+
+void AfterEvents(std::function<void()> action) { ActionAfterEvents() = std::move(action); }
 
 }  // namespace toolkit

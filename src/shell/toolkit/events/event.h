@@ -25,6 +25,10 @@ namespace toolkit {
 /// without a word. No exception leaves it, so none unwinds through the host's event loop.
 void RunHandler(const std::function<void()>& handler);
 
+/// Sets what runs after each handler that no other handler has called, unless the program has
+/// ended. It is met as a handler is; its own events do not call it again.
+void AfterEvents(std::function<void()> action);
+
 /// An event of a form or control: assign a handler to it.
 template <typename... Args>
 class Event {

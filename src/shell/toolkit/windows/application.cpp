@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QStyleFactory>
@@ -60,15 +61,19 @@ bool IsUserInput(QEvent::Type type) {
   }
 }
 
-/// Keeps the user's input from disabled forms, before it can even move the focus.
+/// Keeps the user's input from disabled forms, before it can even move the focus, and gives a form
+/// the keys of its shortcuts before a control sees them.
 class GatedApplication : public QApplication {
  public:
   using QApplication::QApplication;
 
   bool notify(QObject* receiver, QEvent* event) override {
-    if (IsUserInput(event->type())) {
-      const auto* widget = qobject_cast<QWidget*>(receiver);
-      if (widget != nullptr && !Form::TakesInput(widget->window())) return true;
+    const auto* widget = qobject_cast<QWidget*>(receiver);
+    if (widget != nullptr && IsUserInput(event->type())) {
+      if (!Form::TakesInput(widget->window())) return true;
+      if (event->type() == QEvent::KeyPress &&
+          Form::TakesKeys(widget->window(), static_cast<const QKeyEvent&>(*event)))
+        return true;
     }
     return QApplication::notify(receiver, event);
   }

@@ -3,12 +3,15 @@
 
 #include <QCloseEvent>
 #include <QIcon>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QResizeEvent>
-#include <QShortcut>
 #include <QWidget>
 #include <QWindow>
 
+#include "shell/toolkit/controls/replace.h"
 #include "shell/toolkit/drawing/text_code_p.h"
+#include "shell/toolkit/windows/strip.h"
 
 namespace toolkit {
 
@@ -33,6 +36,17 @@ Qt::WindowFlags WindowFlags(Border border) {
          Qt::WindowCloseButtonHint;
 }
 
+/// On a keyboard that has no Latin letters at all, Serbian ones stand for them.
+int LatinKey(int key) {
+  if (key == u'Ѕ') return Qt::Key_Y;
+  const bool cyrillic = QChar::script(static_cast<char32_t>(key)) == QChar::Script_Cyrillic;
+  return cyrillic ? EncodeTyped(static_cast<char32_t>(key), TextCode::national_cyrillic) : key;
+}
+
+std::string SpelledAlike(const QKeySequence& keys) {
+  return keys.toString(QKeySequence::PortableText).toStdString();
+}
+
 }  // namespace
 
 class FormWidget : public QWidget {
@@ -44,7 +58,8 @@ class FormWidget : public QWidget {
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QWidget::resizeEvent(event);
-    if (event->size() != event->oldSize()) form_.Resize.Raise();
+    if (form_.strip_) form_.strip_->Place();
+    if (Replace(form_size_, QSize(width(), form_.InnerHeight()))) form_.Resize.Raise();
   }
 
   void closeEvent(QCloseEvent* event) override {
@@ -58,6 +73,7 @@ class FormWidget : public QWidget {
 
  private:
   Form& form_;
+  QSize form_size_;  ///< As at the last Resize.
 };
 
 namespace {
@@ -101,26 +117,43 @@ int Form::Width() const {
 }
 
 void Form::Width(int twips) {
-  TakeSize(twips / twips_per_pixel - NominalFrame(border_).width, widget_->height());
+  TakeSize(twips / twips_per_pixel - NominalFrame(border_).width, InnerHeight());
 }
 
 int Form::Height() const {
-  return (widget_->height() + NominalFrame(border_).height) * twips_per_pixel;
+  return (InnerHeight() + NominalFrame(border_).height) * twips_per_pixel;
 }
 
 void Form::Height(int twips) {
   TakeSize(widget_->width(), twips / twips_per_pixel - NominalFrame(border_).height);
 }
 
+int Form::InnerHeight() const { return widget_->height() - (strip_ ? Strip::height : 0); }
+
 void Form::TakeSize(int width, int height) {
-  if (border_ == Border::fixed_dialog) widget_->setFixedSize(width, height);
-  widget_->resize(width, height);
+  const QSize window(width, height + (strip_ ? Strip::height : 0));
+  if (border_ == Border::fixed_dialog) widget_->setFixedSize(window);
+  widget_->resize(window);
+}
+
+Strip& Form::AddStrip() {
+  const int height = widget_->height();
+  strip_ = std::make_unique<Strip>(*this);
+  TakeSize(widget_->width(), height);
+  return *strip_;
 }
 
 void Form::Caption(const std::string& caption) {
   caption_ = caption;
-  // The host puts the program's name in the place of an empty title.
-  widget_->setWindowTitle(caption.empty() ? QStringLiteral(" ") : Decode(caption, TextCode::host));
+  // The host puts the program's name in the place of an empty title, and its mark of unsaved work
+  // in that of a single "[*]".
+  QString title = caption.empty() ? QStringLiteral(" ") : Decode(caption, TextCode::host);
+  title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+  widget_->setWindowTitle(title + QStringLiteral("[*]"));
+}
+
+void Form::Modified(bool modified) {
+  if (widget_->isWindowModified() != modified) widget_->setWindowModified(modified);
 }
 
 void Form::Icon(const std::string& picture_name) {
@@ -129,14 +162,8 @@ void Form::Icon(const std::string& picture_name) {
 }
 
 Event<>& Form::Shortcut(const std::string& keys) {
-  const auto [place, made] = shortcuts_.try_emplace(keys);
-  Event<>& event = place->second;
-  if (made) {
-    auto* shortcut = new QShortcut(
-        QKeySequence(QString::fromStdString(keys), QKeySequence::PortableText), widget_.get());
-    QObject::connect(shortcut, &QShortcut::activated, shortcut, [&event] { event.Raise(); });
-  }
-  return event;
+  return shortcuts_[SpelledAlike(
+      QKeySequence(QString::fromStdString(keys), QKeySequence::PortableText))];
 }
 
 void Form::Show() {
@@ -164,6 +191,18 @@ void Form::CloseStartForm() {
 bool Form::TakesInput(const QWidget* window) {
   const auto* form_widget = dynamic_cast<const FormWidget*>(window);
   return form_widget == nullptr || form_widget->form().Enabled();
+}
+
+bool Form::TakesKeys(const QWidget* window, const QKeyEvent& keys) {
+  const auto* form_widget = dynamic_cast<const FormWidget*>(window);
+  if (form_widget == nullptr) return false;
+  const auto& shortcuts = form_widget->form().shortcuts_;
+  const auto modifiers = keys.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
+  const QKeyCombination combination(modifiers, static_cast<Qt::Key>(LatinKey(keys.key())));
+  const auto found = shortcuts.find(SpelledAlike(combination));
+  if (found == shortcuts.end() || !found->second.Handled()) return false;
+  found->second.Raise();
+  return true;
 }
 
 }  // namespace toolkit

@@ -8,9 +8,12 @@
 #include "shell/toolkit/controls/container.h"
 #include "shell/toolkit/events/event.h"
 
+class QKeyEvent;
+
 namespace toolkit {
 
 class FormWidget;
+class Strip;
 
 enum class Border {
   sizeable,     ///< The user can drag it; the form has a close box.
@@ -45,6 +48,8 @@ class Form : public Window {
 
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   void Caption(const std::string& caption);
+  /// Shows the host's mark of unsaved work in the title.
+  void Modified(bool modified);
 
   /// Shows the form, or brings it to the front. Returns at once.
   void Show();
@@ -53,7 +58,11 @@ class Form : public Window {
   /// The icon of the window, one of the pictures that are built in.
   void Icon(const std::string& picture_name);
 
-  /// Raised by a combination of keys, "F5" or "Ctrl+S", wherever in the form the focus is.
+  /// Gives the window a strip below the form, which no size of the form counts.
+  Strip& AddStrip();
+
+  /// Raised by a combination of keys, "F5" or "Ctrl+S", wherever in the form the focus is. The
+  /// control that has it does not see them.
   Event<>& Shortcut(const std::string& keys);
 
   Event<> Resize;
@@ -69,15 +78,19 @@ class Form : public Window {
 
   /// Whether the window is no form, or a form that is enabled.
   static bool TakesInput(const QWidget* window);
+  /// Raises the shortcut of the keys, if the window is a form that has one; whether it has.
+  static bool TakesKeys(const QWidget* window, const QKeyEvent& keys);
 
  protected:
   explicit Form(const FormSheet& sheet);
 
  private:
   friend class FormWidget;
+  [[nodiscard]] int InnerHeight() const;
   void TakeSize(int width, int height);
 
   std::unique_ptr<FormWidget> widget_;
+  std::unique_ptr<Strip> strip_;
   std::map<std::string, Event<>> shortcuts_;
   std::string caption_;
   Border border_;

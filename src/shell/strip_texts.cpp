@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "shell/strip_texts.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "display/writing.h"
+#include "document/crossword_state.h"
+#include "files/run_time_error.h"
+#include "letters/transliteration.h"
+
+namespace kalvon {
+
+namespace {
+
+namespace error = files::error;
+
+struct ErrorText {
+  int error;
+  StripText text;
+};
+
+constexpr ErrorText error_texts[] = {
+    {error::invalid_call, {"nije izabrana datoteka", "no file was chosen"}},
+    {error::overflow, {"ukrštenica je prevelika", "the crossword is too large"}},
+    {error::out_of_memory, {"nema dovoljno memorije", "there is not enough memory"}},
+    {error::subscript_out_of_range, {"to nije cela ukrštenica", "it is no whole crossword"}},
+    {error::out_of_string_space, {"jedan red je predugačak", "a line is too long"}},
+    {error::file_not_found, {"datoteke nema", "the file is missing"}},
+    {error::device_io, {"disk je javio grešku", "the disk reports an error"}},
+    {error::disk_full, {"disk je pun", "the disk is full"}},
+    {error::input_past_end, {"datoteka nije cela", "the file is not whole"}},
+    {error::permission_denied,
+     {"nema dozvole za upis, ili je koristi drugi program",
+      "there is no right to write it, or another program uses it"}},
+    {error::path_file_access, {"datoteka ne može da se otvori", "the file cannot be opened"}},
+    {error::path_not_found, {"fascikle nema", "the folder is missing"}},
+    {error::invalid_file_format,
+     {"na njenom mestu je druga ukrštenica", "another crossword is in its place"}},
+};
+constexpr StripText other_error = {"greška broj %", "error number %"};
+
+std::string Reason(int number) {
+  const auto* const found = std::ranges::find(error_texts, number, &ErrorText::error);
+  return found == std::end(error_texts) ? Shown(other_error, std::to_string(number))
+                                        : Shown(found->text);
+}
+
+/// What was made, and what its undoing and redoing take for it.
+struct StepText {
+  StepKind kind;
+  StripText made;
+  StripText name;
+};
+
+constexpr StepText step_texts[] = {
+    {StepKind::word_entered,
+     {"Reč je upisana.", "The word is entered."},
+     {"upisana reč", "entered word"}},
+    {StepKind::letter_solved,
+     {"Slovo je rešeno.", "The letter is solved."},
+     {"rešeno slovo", "solved letter"}},
+    {StepKind::word_solved,
+     {"Reč je rešena.", "The word is solved."},
+     {"rešena reč", "solved word"}},
+    {StepKind::word_erased,
+     {"Reč je obrisana; `Ctrl+Z` je vraća.", "The word is erased; Ctrl+Z brings it back."},
+     {"obrisana reč", "erased word"}},
+    {StepKind::puzzle_solved,
+     {"Cela ukrštenica je rešena; `Ctrl+Z` vraća vaša slova.",
+      "The whole puzzle is solved; Ctrl+Z brings your letters back."},
+     {"rešena ukrštenica", "solved puzzle"}},
+    {StepKind::puzzle_erased,
+     {"Sva slova su obrisana; `Ctrl+Z` ih vraća.",
+      "All letters are erased; Ctrl+Z brings them back."},
+     {"obrisana ukrštenica", "erased puzzle"}},
+    {StepKind::wrong_erased,
+     {"Pogrešna slova su obrisana; `Ctrl+Z` ih vraća.",
+      "The wrong letters are erased; Ctrl+Z brings them back."},
+     {"obrisana pogrešna slova", "erased wrong letters"}},
+    {StepKind::earlier_work,
+     {"Raniji rad je vraćen.", "The earlier work is back."},
+     {"raniji rad", "earlier work"}},
+};
+
+const StepText& TextOf(StepKind kind) {
+  return *std::ranges::find(step_texts, kind, &StepText::kind);
+}
+
+constexpr StripText undone = {"Poništeno: %.", "Undone: %."};
+constexpr StripText redone = {"Ponovljeno: %.", "Redone: %."};
+constexpr StripText loaded = {"Učitana je ukrštenica %.", "% is loaded."};
+constexpr StripText not_loaded = {"Nije učitano: %.", "Not loaded: %."};
+constexpr StripText saved = {"Sačuvano: %.", "Saved: %."};
+constexpr StripText not_saved = {"Nije sačuvano: %.", "Not saved: %."};
+constexpr StripText typed = {"`Enter` upisuje slova u ukrštenicu.",
+                             "Enter writes the letters into the puzzle."};
+constexpr StripText counted = {"Pogrešnih slova: %.", "Wrong letters: %."};
+constexpr StripText no_empty_cell = {"Nema više praznih polja.", "No cell is empty any more."};
+constexpr StripText solved = {"Bravo! Sva slova su na svom mestu.",
+                              "Well done! Every letter is in its place."};
+constexpr StripText about_program = {
+    "`Vostrand KALVON Multimedia` %, slobodan program (licenca `MIT`).",
+    "Vostrand KALVON Multimedia %, free software (MIT licence)."};
+constexpr StripText nothing_loaded = {"`Ctrl+O` učitava ukrštenicu.", "Ctrl+O loads a crossword."};
+
+/// The files that were written, or those that were not, each with its reason.
+std::string Files(const Vest& vest, bool failed) {
+  std::string files;
+  for (const FileNews& file : vest.files) {
+    if ((file.error != 0) != failed) continue;
+    if (!files.empty()) files += ", ";
+    files += file.name;
+    if (failed) files += (file.name.empty() ? "" : " – ") + Reason(file.error);
+  }
+  return files;
+}
+
+std::string SaveText(const Vest& vest) {
+  const std::string written = Files(vest, false);
+  const std::string failed = Files(vest, true);
+  std::string text;
+  if (!failed.empty()) text = Shown(not_saved, failed);
+  if (!failed.empty() && !written.empty()) text += ' ';
+  if (!written.empty()) text += Shown(saved, written);
+  return text;
+}
+
+}  // namespace
+
+std::string Shown(const StripText& text, std::string_view about) {
+  const Writing writing = ChosenWriting();
+  std::string shown =
+      writing.english ? std::string(text.english) : InScript(text.serbian, writing.latin);
+  if (const std::size_t mark = shown.find('%'); mark != std::string::npos)
+    shown.replace(mark, 1, about);
+  return shown;
+}
+
+std::string NewsText() {
+  const Vest& vest = glavni.vest;
+  const StepText& step = TextOf(vest.step);
+  switch (vest.news) {
+    case News::none:
+      return glavni.pre_ucitavanja == 1 ? Shown(nothing_loaded) : "";
+    case News::loaded:
+      return Shown(loaded, Files(vest, false));
+    case News::load_failed:
+      return Shown(not_loaded, Files(vest, true));
+    case News::saved:
+    case News::save_failed:
+      return SaveText(vest);
+    case News::typed:
+      return Shown(typed);
+    case News::made:
+      return glavni.slova.Solved() && vest.step != StepKind::puzzle_solved ? Shown(solved)
+                                                                           : Shown(step.made);
+    case News::undone:
+      return Shown(undone, Shown(step.name));
+    case News::redone:
+      return Shown(redone, Shown(step.name));
+    case News::counted:
+      return Shown(counted, std::to_string(vest.count));
+    case News::no_empty_cell:
+      return Shown(no_empty_cell);
+    case News::about:
+      return Shown(about_program, KALVON_VERSION);
+  }
+  return "";
+}
+
+}  // namespace kalvon
