@@ -79,6 +79,7 @@ std::vector<std::string> WriteInstallments(const ScratchFolder& folder, int coun
 BenchProgram::BenchProgram() {
   glavni = CrosswordState{};
   toolkit::App::Path(files::LogicPath(folder_.Path()));
+  setenv("XDG_STATE_HOME", (folder_.Path() + "/state").c_str(), 1);
   BindEvents();
   frm_glavni->Show();
 }

@@ -5,6 +5,7 @@
 set -eu
 programs=$1
 folder=$(mktemp -d)
+export XDG_STATE_HOME="$folder/state"
 trap 'rm -r "$folder"' EXIT
 
 expect() {

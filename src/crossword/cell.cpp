@@ -13,6 +13,8 @@ bool ShowsUserLetter(std::string_view cell) { return cell.size() > 2 && cell[2] 
 
 bool IsWrong(std::string_view cell) { return ShowsUserLetter(cell) && cell[0] != cell[1]; }
 
+std::string_view LettersIn(std::string_view cell) { return cell.substr(1, cell.find('$') - 1); }
+
 std::string WithoutUserLetter(std::string_view cell) {
   const std::size_t rest = cell.find('$');
   std::string result(cell.substr(0, 1));

@@ -22,6 +22,9 @@ std::string_view UserLetter(std::string_view cell);
 bool ShowsUserLetter(std::string_view cell);
 /// Whether it shows one that is not the solution.
 bool IsWrong(std::string_view cell);
+/// What stands in a letter cell between the solution letter and the fields: the user's letter or
+/// nothing, if the cell is as it should be.
+std::string_view LettersIn(std::string_view cell);
 /// A letter cell without the user's letter.
 std::string WithoutUserLetter(std::string_view cell);
 /// A letter cell with this user's letter in place of the one that it has, if any.

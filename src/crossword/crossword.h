@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <string>
 
@@ -13,7 +14,7 @@ struct GridCell {
   int x = 0;
   int y = 0;
 
-  bool operator==(const GridCell&) const = default;
+  auto operator<=>(const GridCell&) const = default;
 };
 
 /// How installments are joined into one grid, in the numbers of `nast_smer`.

@@ -18,6 +18,7 @@ void History::Append(Step step) {
     changes_ -= steps_.front().changes.size();
     steps_.pop_front();
     --made_;
+    ++forgotten_;
   }
 }
 

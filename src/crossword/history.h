@@ -26,13 +26,23 @@ class History {
   void Back();
   void Forward();
 
+  // Positions: how many steps were made before, with those that are forgotten.
+
+  /// That of the oldest step, the present one, and that behind all steps.
+  [[nodiscard]] std::size_t First() const { return forgotten_; }
+  [[nodiscard]] std::size_t Made() const { return forgotten_ + made_; }
+  [[nodiscard]] std::size_t End() const { return forgotten_ + steps_.size(); }
+  /// The step that leads on from a position before the end.
+  [[nodiscard]] const Step& At(std::size_t position) const { return steps_[position - forgotten_]; }
+
   bool operator==(const History&) const = default;
 
  private:
   void Append(Step step);
 
   std::deque<Step> steps_;
-  std::size_t made_ = 0;     ///< How many of them, from the first.
+  std::size_t made_ = 0;  ///< How many of them, from the first.
+  std::size_t forgotten_ = 0;
   std::size_t changes_ = 0;  ///< Cells that all of them change.
 };
 

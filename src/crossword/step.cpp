@@ -2,26 +2,16 @@
 #include "crossword/step.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 #include "crossword/cell.h"
 
 namespace kalvon {
 
-namespace {
-
-/// What stands between the solution letter of a cell and its fields.
-std::string Letters(std::string_view cell) {
-  return std::string(cell.substr(1, cell.find('$') - 1));
-}
-
-}  // namespace
-
 void ChangeCell(Crossword& crossword, Step& step, GridCell cell, std::string changed) {
   std::string& text = crossword.ukr_polja.Mutable(cell.x, cell.y, 1);
   if (changed == text) return;
-  step.changes.push_back({cell, Letters(text), Letters(changed)});
+  step.changes.push_back({cell, std::string(LettersIn(text)), std::string(LettersIn(changed))});
   text = std::move(changed);
 }
 
@@ -30,7 +20,7 @@ bool Fits(const Crossword& crossword, const Step& step) {
     const auto& [x, y] = change.cell;
     if (x < 1 || x > crossword.ukr_sirina || y < 1 || y > crossword.ukr_visina) return false;
     const std::string& text = crossword.ukr_polja(x, y, 1);
-    return IsLetterCell(text) && Letters(text) == change.before;
+    return IsLetterCell(text) && LettersIn(text) == change.before;
   });
 }
 

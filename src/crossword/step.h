@@ -33,6 +33,8 @@ struct LetterChange {
   bool operator==(const LetterChange&) const = default;
 };
 
+using Changes = std::vector<LetterChange>;
+
 /// Where the user was: the first cell of the selected word, and its direction, 0 for no word.
 struct WordPlace {
   GridCell first;
@@ -43,8 +45,8 @@ struct WordPlace {
 
 struct Step {
   StepKind kind = StepKind::word_entered;
-  WordPlace word;
-  std::vector<LetterChange> changes = {};
+  WordPlace word = {};
+  Changes changes = {};  ///< Each cell comes once.
 
   bool operator==(const Step&) const = default;
 };

@@ -9,6 +9,7 @@
 #include "crossword/direction.h"
 #include "crossword/reading.h"
 #include "document/crossword_state.h"
+#include "document/journal_keeping.h"
 #include "files/folder_entries.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_ucit_snimi.h"
@@ -32,7 +33,7 @@ void ForgetOldCrossword() {
   glavni.media_temp.clear();
   glavni.rec_tekst.clear();
   glavni.media_gotovo = 0;
-  glavni.istorija = {};
+  zatvori_dnevnik();
   frm_glavni->scr_hor.Value(0);
   frm_glavni->scr_ver.Value(0);
 }

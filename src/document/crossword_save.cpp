@@ -3,6 +3,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "crossword/installments.h"
 #include "crossword/writing.h"
@@ -15,13 +16,15 @@ namespace kalvon {
 void snimi_ukrstenicu() {
   const toolkit::Hourglass hourglass;
   Vest vest = {.news = News::saved};
+  std::vector<int> written;
   for (const auto [installment, error] : WriteCrossword(glavni)) {
     if (error == 0)
-      glavni.snimljeno.Written(glavni, installment);
+      written.push_back(installment);
     else
       vest.news = News::save_failed;
     vest.files.push_back({std::string(FileName(glavni.nast_staza(installment))), error});
   }
+  if (glavni.dnevnik) glavni.dnevnik->Saved(glavni, written);
   glavni.vest = std::move(vest);
   UpdateFacts();
 }

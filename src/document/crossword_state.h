@@ -2,13 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "crossword/crossword.h"
-#include "crossword/history.h"
+#include "crossword/journal.h"
 #include "crossword/letter_counts.h"
-#include "crossword/saved_letters.h"
 #include "document/news.h"
 
 namespace kalvon {
@@ -41,8 +41,7 @@ struct CrosswordState : Crossword {
   std::vector<TypedPlace> otkucano;       ///< What was typed since the boxes were filled.
 
   // Steps, and what the user is told.
-  History istorija;
-  SavedLetters snimljeno;
+  std::shared_ptr<Journal> dnevnik;  ///< None before a crossword, and after a load that failed.
   LetterCounts slova;
   bool izmenjeno = false;  ///< Whether the letters differ from those in the files.
   Vest vest;

@@ -7,7 +7,9 @@ namespace kalvon {
 
 void UpdateFacts() {
   glavni.slova = CountLetters(glavni);
-  glavni.izmenjeno = !glavni.snimljeno.HoldAll(glavni);
+  const auto& journal = glavni.dnevnik;
+  glavni.izmenjeno = journal && journal->IsModified();
+  glavni.vest.journal_error = journal ? journal->NewFailure() : 0;
 }
 
 }  // namespace kalvon

@@ -12,6 +12,8 @@ namespace kalvon {
 enum class News {
   none,
   loaded,
+  restored,  ///< Loaded, with letters that a killed program had not saved.
+  waiting,   ///< Loaded, and steps wait that were not saved.
   load_failed,
   saved,
   save_failed,
@@ -36,6 +38,7 @@ struct Vest {
   StepKind step = StepKind::word_entered;
   std::vector<FileNews> files = {};
   int count = 0;
+  int journal_error = 0;  ///< 0, or why the journal cannot be kept from now on.
 };
 
 }  // namespace kalvon

@@ -21,6 +21,17 @@ int OpenForReading(std::string_view path) {
   return file.Release();
 }
 
+bool IsSameFile(const struct stat& one, const struct stat& other) {
+  return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+bool BearsName(int descriptor, const std::string& host_path) {
+  struct stat opened {};
+  struct stat named {};
+  return fstat(descriptor, &opened) == 0 && lstat(host_path.c_str(), &named) == 0 &&
+         IsSameFile(opened, named);
+}
+
 bool NoSuchFile(int host_error) { return host_error == ENOENT || host_error == ENOTDIR; }
 
 int OpenFailure(int host_error) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <string>
@@ -36,6 +37,11 @@ class Descriptor {
 /// Opens the file of a path of the logic for reading, to be closed by the caller. Error 53 if there
 /// is none, 75 if it cannot be read or is no regular file.
 int OpenForReading(std::string_view path);
+
+/// Whether both are of one file.
+bool IsSameFile(const struct stat& one, const struct stat& other);
+/// Whether the name leads to the open file.
+bool BearsName(int descriptor, const std::string& host_path);
 
 // From the host's number of a failure: that there is no such file, and the number of the run-time
 // error for a failed open and write.

@@ -34,18 +34,6 @@ std::optional<Status> StatusOf(const std::string& host_path) {
   throw RuntimeError(error::path_file_access);
 }
 
-bool SameFile(const Status& one, const Status& other) {
-  return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
-/// Whether the name leads to the open file.
-bool BearsName(int descriptor, const std::string& host_path) {
-  Status opened{};
-  Status named{};
-  return fstat(descriptor, &opened) == 0 && lstat(host_path.c_str(), &named) == 0 &&
-         SameFile(opened, named);
-}
-
 /// The file to which a chain of symbolic links leads, also if that file does not exist yet.
 std::string LinkTarget(const std::string& host_path) {
   constexpr int most_links = 40;
@@ -89,7 +77,7 @@ bool MakeRoom(const std::string& temporary, const std::string& target, Deadline 
   const std::optional<Status> there = StatusOf(temporary);
   if (!there) return true;
   if (!S_ISREG(there->st_mode) && !S_ISLNK(there->st_mode)) return false;
-  const bool is_target = old && SameFile(*there, *old) && there->st_nlink == 1;
+  const bool is_target = old && IsSameFile(*there, *old) && there->st_nlink == 1;
   if (is_target) throw RuntimeError(error::path_file_access);
 
   const Descriptor file(temporary, O_RDWR | O_NOFOLLOW);

@@ -19,6 +19,7 @@
 #include "document/crossword_load.h"
 #include "document/crossword_state.h"
 #include "document/facts.h"
+#include "document/journal_keeping.h"
 #include "document/load_progress.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
@@ -144,6 +145,7 @@ void Show(Crossword opened) {
   ReadInstallments(glavni, ProgressStep);
   PlaceView();
   const ClueCounts counts = NumberClues(glavni, ProgressStep);
+  otvori_dnevnik();
   crtaj_ukrstenicu();
   ShowFirstClue(counts);
 }
@@ -156,6 +158,11 @@ void ShowUnselected() {
   files::pass_over([] { oznaci_rec(0); });
 }
 
+News NewsOfLoad() {
+  if (glavni.dnevnik->PutBack() > 0) return News::restored;
+  return glavni.dnevnik->Waiting() > 0 ? News::waiting : News::loaded;
+}
+
 }  // namespace
 
 void ucitaj_ukrstenicu() {
@@ -165,11 +172,10 @@ void ucitaj_ukrstenicu() {
   if (error == 0) {
     error = files::pass_over([&] { Show(std::move(opened)); });
     if (error != 0) ShowUnselected();
-    glavni.snimljeno = SavedLetters(glavni);
-    UpdateFacts();
   }
-  glavni.vest = {.news = error == 0 ? News::loaded : News::load_failed,
+  glavni.vest = {.news = error == 0 ? NewsOfLoad() : News::load_failed,
                  .files = {{std::string(FileName(glavni.ukr_staza)), error}}};
+  UpdateFacts();
 }
 
 }  // namespace kalvon

@@ -54,6 +54,7 @@ void BindMediaPane(FrmGlavni& form) {
 void BindMainForm(FrmGlavni& form) {
   form.Resize = [] { HoldSize(); };
   form.Unload = [](bool&) { komanda_glavni(command::end); };
+  form.HostEnds = [] { prekini(); };
   form.cmd_glavni.ForEach([](toolkit::Button& button) {
     button.Click = [index = button.Index()] { komanda_glavni(index); };
   });

@@ -4,6 +4,7 @@
 #include "crossword/direction.h"
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
+#include "document/journal_keeping.h"
 #include "document/settings.h"
 #include "files/host_paths.h"
 #include "multimedia/media_pane.h"
@@ -82,6 +83,7 @@ void Start() {
   glavni.pomoc_otvorena = 0;
   ChooseFont();
   if (glavni.jezik == 1) WriteEnglishCaptions();
+  pocisti_dnevnike();
   ShowStripMenu();
   UpdateStrip();
   glavni.forma_sirina = frm_glavni->Width();
@@ -99,6 +101,11 @@ void pokreni() {
 }
 
 void kraj() {
+  zatvori_dnevnik();
+  prekini();
+}
+
+void prekini() {
   files::pass_over([] { zatvori_media(); });
   snimi_ini();
   toolkit::End();

@@ -10,6 +10,10 @@ void pokreni();
 /// a question. Does not return.
 [[noreturn]] void kraj();
 
+/// The end that the desktop or a signal asks for: as that of `kraj`, but for the journal the
+/// program is killed, so that unsaved letters come back with the next load.
+[[noreturn]] void prekini();
+
 /// Holds the main form to the size that it has at the end of the start sequence.
 void HoldSize();
 

@@ -26,6 +26,7 @@ bool Always() { return true; }
 bool NoHelpPanel() { return glavni.pomoc_otvorena == 0; }
 bool Undoable() { return OnCrossword() && CanUndo(); }
 bool Redoable() { return OnCrossword() && CanRedo(); }
+bool HasEarlierWork() { return OnCrossword() && EarlierSteps() > 0; }
 
 template <int Index>
 void Press() {
@@ -53,6 +54,10 @@ constexpr MenuCommand menu_commands[] = {
     {},
     {{"Poništi", "Undo"}, "Ctrl+Z", Undoable, ponisti},
     {{"Ponovi", "Redo"}, "Ctrl+Y;Ctrl+Shift+Z", Redoable, ponovi},
+    {{"Vrati prethodni rad (%)", "Bring earlier work back (%)"},
+     "",
+     HasEarlierWork,
+     vrati_raniji_rad},
     {},
     {{"Reši slovo", "Solve letter"}, "Ctrl+L", OnCrossword, resi_slovo},
     {{"Reši reč", "Solve word"}, "Ctrl+R", OnCrossword, Press<command::solve>},
@@ -86,6 +91,9 @@ constexpr MenuCommand menu_commands[] = {
     {{"O programu", "About"}, "Ctrl+F1", Always, About},
 };
 
+/// Steps of which the menu speaks.
+std::size_t shown_steps = 0;
+
 /// A mark for unsaved letters, and how many of the cells are filled.
 std::string Status() {
   constexpr StripText unsaved = {"nesačuvano", "unsaved"};
@@ -98,10 +106,12 @@ std::string Status() {
 }  // namespace
 
 void ShowStripMenu() {
+  shown_steps = EarlierSteps();
   constexpr StripText caption = {"Meni", "Menu"};
+  const std::string steps = std::to_string(shown_steps);
   std::vector<toolkit::MenuRow> rows;
   for (const MenuCommand& command : menu_commands)
-    rows.push_back({.text = Shown(command.text),
+    rows.push_back({.text = Shown(command.text, steps),
                     .keys = command.keys,
                     .enabled = command.enabled,
                     .action = command.action});
@@ -109,6 +119,7 @@ void ShowStripMenu() {
 }
 
 void UpdateStrip() {
+  if (EarlierSteps() != shown_steps) ShowStripMenu();
   frm_glavni->strip.Text(NewsText());
   frm_glavni->strip.Status(Status());
   frm_glavni->Modified(glavni.izmenjeno);

@@ -90,6 +90,12 @@ const StepText& TextOf(StepKind kind) {
 constexpr StripText undone = {"Poništeno: %.", "Undone: %."};
 constexpr StripText redone = {"Ponovljeno: %.", "Redone: %."};
 constexpr StripText loaded = {"Učitana je ukrštenica %.", "% is loaded."};
+constexpr StripText restored = {"%: vraćena su slova koja nisu bila sačuvana; `Ctrl+Z` ih uklanja.",
+                                "%: letters that were not saved are back; Ctrl+Z takes them away."};
+constexpr StripText waiting = {"%: čekaju slova koja nisu bila sačuvana; `Ctrl+Y` ih vraća.",
+                               "%: letters that were not saved wait; Ctrl+Y brings them back."};
+constexpr StripText no_journal = {" Dnevnik ukrštenice se ne vodi: %.",
+                                  " No journal of the crossword is kept: %."};
 constexpr StripText not_loaded = {"Nije učitano: %.", "Not loaded: %."};
 constexpr StripText saved = {"Sačuvano: %.", "Saved: %."};
 constexpr StripText not_saved = {"Nije sačuvano: %.", "Not saved: %."};
@@ -126,25 +132,18 @@ std::string SaveText(const Vest& vest) {
   return text;
 }
 
-}  // namespace
-
-std::string Shown(const StripText& text, std::string_view about) {
-  const Writing writing = ChosenWriting();
-  std::string shown =
-      writing.english ? std::string(text.english) : InScript(text.serbian, writing.latin);
-  if (const std::size_t mark = shown.find('%'); mark != std::string::npos)
-    shown.replace(mark, 1, about);
-  return shown;
-}
-
-std::string NewsText() {
-  const Vest& vest = glavni.vest;
+/// What happened, without the journal.
+std::string TextOf(const Vest& vest) {
   const StepText& step = TextOf(vest.step);
   switch (vest.news) {
     case News::none:
       return glavni.pre_ucitavanja == 1 ? Shown(nothing_loaded) : "";
     case News::loaded:
       return Shown(loaded, Files(vest, false));
+    case News::restored:
+      return Shown(restored, Files(vest, false));
+    case News::waiting:
+      return Shown(waiting, Files(vest, false));
     case News::load_failed:
       return Shown(not_loaded, Files(vest, true));
     case News::saved:
@@ -167,6 +166,24 @@ std::string NewsText() {
       return Shown(about_program, KALVON_VERSION);
   }
   return "";
+}
+
+}  // namespace
+
+std::string Shown(const StripText& text, std::string_view about) {
+  const Writing writing = ChosenWriting();
+  std::string shown =
+      writing.english ? std::string(text.english) : InScript(text.serbian, writing.latin);
+  if (const std::size_t mark = shown.find('%'); mark != std::string::npos)
+    shown.replace(mark, 1, about);
+  return shown;
+}
+
+std::string NewsText() {
+  const Vest& vest = glavni.vest;
+  const std::string journal =
+      vest.journal_error == 0 ? "" : Shown(no_journal, Reason(vest.journal_error));
+  return TextOf(vest) + journal;
 }
 
 }  // namespace kalvon

@@ -14,7 +14,7 @@ Step BeginStep(StepKind kind) { return {.kind = kind, .word = SelectedWord()}; }
 void EndStep(Step step) {
   if (step.changes.empty()) return;
   glavni.vest = {.news = News::made, .step = step.kind};
-  glavni.istorija.Add(std::move(step));
+  if (glavni.dnevnik) glavni.dnevnik->Made(std::move(step));
   UpdateFacts();
 }
 

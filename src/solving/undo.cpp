@@ -12,9 +12,8 @@ namespace kalvon {
 
 namespace {
 
-/// Makes a step of the history, and shows the place where it was made first.
-void Make(const Step& step, News news) {
-  Apply(glavni, step);
+/// Shows the place where a step was made first.
+void ShowStep(const Step& step, News news) {
   crtaj_ukrstenicu();
   oznaci_rec(0);
   SelectWord(step.word);
@@ -24,25 +23,30 @@ void Make(const Step& step, News news) {
 
 }  // namespace
 
-bool CanUndo() { return !glavni.otkucano.empty() || glavni.istorija.LastMade() != nullptr; }
+bool CanUndo() {
+  return !glavni.otkucano.empty() || (glavni.dnevnik && glavni.dnevnik->Steps().LastMade());
+}
 
-bool CanRedo() { return glavni.istorija.LastUndone() != nullptr; }
+bool CanRedo() { return glavni.dnevnik && glavni.dnevnik->Steps().LastUndone(); }
+
+std::size_t EarlierSteps() { return glavni.dnevnik ? glavni.dnevnik->EarlierSteps() : 0; }
 
 void ponisti() {
-  if (TakeBackTyped()) return;
-  const Step* last = glavni.istorija.LastMade();
-  if (last == nullptr) return;
-  const Step back = Inverse(*last);
-  if (!Fits(glavni, back)) return;
-  glavni.istorija.Back();
-  Make(back, News::undone);
+  if (TakeBackTyped() || !glavni.dnevnik) return;
+  if (const Step* step = glavni.dnevnik->Undo(glavni)) ShowStep(*step, News::undone);
 }
 
 void ponovi() {
-  const Step* next = glavni.istorija.LastUndone();
-  if (next == nullptr || !Fits(glavni, *next)) return;
-  glavni.istorija.Forward();
-  Make(*next, News::redone);
+  if (!glavni.dnevnik) return;
+  if (const Step* step = glavni.dnevnik->Redo(glavni)) ShowStep(*step, News::redone);
+}
+
+void vrati_raniji_rad() {
+  if (EarlierSteps() == 0) return;
+  const Step step = glavni.dnevnik->EarlierWork();
+  Apply(glavni, step);
+  glavni.dnevnik->Made(step);
+  ShowStep(step, News::made);
 }
 
 }  // namespace kalvon

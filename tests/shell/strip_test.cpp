@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "shell/strip.h"
 
-#include <QLabel>
+#include <QApplication>
 
 #include "shell/strip_texts.h"
+#include "solving/undo.h"
 #include "support/crossword_text.h"
 #include "support/program_test.h"
 
 namespace kalvon::testing {
 
-class StripTest : public ProgramTest {
+class StripNews : public ProgramTest {
  protected:
   void Save() { ClickButton("cmd_glavni(1)"); }
 };
 
-TEST_F(StripTest, TellsWhatHappenedAndMarksUnsavedWork) {
+TEST_F(StripNews, TellsWhatHappenedAndMarksUnsavedWork) {
   EXPECT_EQ(NewsText(), "Ctrl+O učitava ukrštenicu.");
   WriteFile("mir.qvm", Qvm({"MIR", "A#A", "KIT"}));
   WriteFile("losa.qvm", "\r\nNaziv: Ima samo dva reda\r\n");
@@ -33,7 +34,7 @@ TEST_F(StripTest, TellsWhatHappenedAndMarksUnsavedWork) {
   EXPECT_FALSE(Widget("frm_glavni")->isWindowModified());
 }
 
-TEST_F(StripTest, TellsWhichFileWasNotSavedAndWhy) {
+TEST_F(StripNews, TellsWhichFileWasNotSavedAndWhy) {
   const std::string bytes = Qvm({.rows = {"MIR"}, .marks = {1, 0, 0, 0}});
   for (const char* name : {"zima1001.qvm", "zima1002.qvm", "zima1003.qvm"}) WriteFile(name, bytes);
   Load("zima1001.qvm");
@@ -51,6 +52,34 @@ TEST_F(StripTest, TellsWhichFileWasNotSavedAndWhy) {
   Save();
   EXPECT_EQ(NewsText(), "Сачувано: zima1001.qvm, zima1002.qvm, zima1003.qvm.");
   EXPECT_FALSE(glavni.izmenjeno);
+}
+
+TEST_F(StripNews, UnsavedLettersComeBackAfterAKillAndWaitAfterAnEnd) {
+  const std::string bytes = Qvm({"MIR", "A#A", "KIT"});
+  WriteFile("mir.qvm", bytes);
+  const auto key = [&](Qt::Key letter) {
+    QTest::keyClick(QApplication::focusWidget(), letter, Qt::ControlModifier);
+  };
+  Load("mir.qvm");
+  key(Qt::Key_R);
+  Restart();
+  Load("mir.qvm");
+  EXPECT_EQ(NewsText(), "mir.qvm: vraćena su slova koja nisu bila sačuvana; Ctrl+Z ih uklanja.");
+  EXPECT_TRUE(glavni.izmenjeno && glavni.slova.filled == 3);
+  key(Qt::Key_Z);
+  EXPECT_TRUE(!glavni.izmenjeno && glavni.slova.filled == 0);
+  key(Qt::Key_Y);
+  key(Qt::Key_Q);
+  EXPECT_EQ(ReadFile("mir.qvm"), bytes);
+  Restart();
+  Load("mir.qvm");
+  EXPECT_EQ(NewsText(), "mir.qvm: čekaju slova koja nisu bila sačuvana; Ctrl+Y ih vraća.");
+  EXPECT_EQ(glavni.slova.filled, 0);
+  key(Qt::Key_L);
+  EXPECT_EQ(glavni.dnevnik->EarlierSteps(), 1U);
+  vrati_raniji_rad();
+  EXPECT_EQ(NewsText(), "Raniji rad je vraćen.");
+  EXPECT_EQ(frm_glavni->txt_rec(2).Text(), "R");
 }
 
 }  // namespace kalvon::testing

@@ -26,6 +26,7 @@ namespace testing {
 void ProgramTest::Start() {
   language_under_test = language_;
   glavni = CrosswordState{};
+  qputenv("XDG_STATE_HOME", state_.Host().c_str());
   toolkit::App::Path(scratch_.Logic());
   toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();

@@ -68,6 +68,7 @@ class ProgramTest : public ::testing::Test {
   static void Stop();
 
   ScratchFolder scratch_;
+  ScratchFolder state_;  ///< What the user's state folder holds.
   BrowserScript browser_;
   int language_;
 };

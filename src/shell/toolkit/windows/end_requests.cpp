@@ -32,15 +32,15 @@ void SetHandler(int signal, void (*handler)(int)) {
   sigaction(signal, &action, nullptr);
 }
 
-void CloseStartForm() { Form::CloseStartForm(); }
+void EndStartForm() { Form::EndStartForm(); }
 
 }  // namespace
 
 EndRequests::EndRequests() {
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, CloseStartForm);
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndStartForm);
   if (pipe2(signal_pipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
   notifier_ = std::make_unique<QSocketNotifier>(signal_pipe[0], QSocketNotifier::Read);
-  QObject::connect(notifier_.get(), &QSocketNotifier::activated, qApp, CloseStartForm);
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, qApp, EndStartForm);
   for (const int signal : end_signals) SetHandler(signal, TellEventLoop);
 }
 

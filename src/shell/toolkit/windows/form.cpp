@@ -36,9 +36,10 @@ Qt::WindowFlags WindowFlags(Border border) {
          Qt::WindowCloseButtonHint;
 }
 
-/// On a keyboard that has no Latin letters at all, Serbian ones stand for them.
+/// On a keyboard that has no Latin letters at all, Serbian ones stand for them. Y is their Ж, which
+/// that keyboard has twice, or their Ѕ.
 int LatinKey(int key) {
-  if (key == u'Ѕ') return Qt::Key_Y;
+  if (key == u'Ж' || key == u'Ѕ') return Qt::Key_Y;
   const bool cyrillic = QChar::script(static_cast<char32_t>(key)) == QChar::Script_Cyrillic;
   return cyrillic ? EncodeTyped(static_cast<char32_t>(key), TextCode::national_cyrillic) : key;
 }
@@ -183,9 +184,8 @@ void Form::Hide() { widget_->hide(); }
 
 QWidget* Form::InnerWidget() const { return widget_.get(); }
 
-void Form::CloseStartForm() {
-  bool keep_open = false;
-  if (start_window != nullptr) start_window->form().Unload.Raise(keep_open);
+void Form::EndStartForm() {
+  if (start_window != nullptr) start_window->form().HostEnds.Raise();
 }
 
 bool Form::TakesInput(const QWidget* window) {

@@ -68,13 +68,14 @@ class Form : public Window {
   Event<> Resize;
   /// The user closes the form. Setting the argument keeps it open.
   Event<bool&> Unload;
+  /// The desktop or a signal ends the program, also while the form is disabled.
+  Event<> HostEnds;
 
   [[nodiscard]] Scale InnerScale() const override { return scale_; }
   [[nodiscard]] QWidget* InnerWidget() const override;
 
-  /// Closes the start form as its close box does, also while it is disabled: the desktop ends the
-  /// program.
-  static void CloseStartForm();
+  /// Raises HostEnds of the start form.
+  static void EndStartForm();
 
   /// Whether the window is no form, or a form that is enabled.
   static bool TakesInput(const QWidget* window);
