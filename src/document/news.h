@@ -18,7 +18,8 @@ enum class News {
   saved,
   save_failed,
   typed,  ///< Letters are in the boxes that Enter will write.
-  made,   ///< A step.
+  untyped,  ///< The last of them is taken back.
+  made,     ///< A step.
   undone,
   redone,
   counted,  ///< Wrong letters.

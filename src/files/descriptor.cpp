@@ -42,6 +42,10 @@ int OpenFailure(int host_error) {
     case ENOSPC:
     case EDQUOT:
       return error::disk_full;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return error::permission_denied;
     default:
       return error::path_file_access;
   }

@@ -95,7 +95,10 @@ int Create(const std::string& temporary, mode_t mode, Deadline deadline) {
   if (!file.IsOpen() && errno != EEXIST) throw RuntimeError(OpenFailure(errno));
   if (!file.IsOpen()) return -1;
   // Before it was locked, another program may have thrown it away.
-  Lock(file.number(), deadline);
+  if (const int error = pass_over([&] { Lock(file.number(), deadline); }); error != 0) {
+    if (BearsName(file.number(), temporary)) unlink(temporary.c_str());
+    throw RuntimeError(error);
+  }
   return BearsName(file.number(), temporary) ? file.Release() : -1;
 }
 
@@ -181,9 +184,8 @@ void FileRewrite::Commit() {
     failure_ = WriteFailure(errno);
     throw RuntimeError(failure_);
   }
-  if (!BearsName(descriptor_, temporary_) || rename(temporary_.c_str(), target_.c_str()) != 0) {
-    throw RuntimeError(error::path_file_access);
-  }
+  if (!BearsName(descriptor_, temporary_)) throw RuntimeError(error::path_file_access);
+  if (rename(temporary_.c_str(), target_.c_str()) != 0) throw RuntimeError(OpenFailure(errno));
   FlushFolder(FolderOf(target_));
   close(descriptor_);
   descriptor_ = -1;

@@ -23,6 +23,7 @@
 #include "document/load_progress.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
+#include "shell/forms/frm_ucit_snimi.h"
 #include "shell/toolkit/desktop/screen.h"
 #include "solving/clue_selection.h"
 
@@ -158,6 +159,11 @@ void ShowUnselected() {
   files::pass_over([] { oznaci_rec(0); });
 }
 
+/// Empty if no file is chosen in the dialog; the path then is that of an earlier one.
+std::string NameOfChosen() {
+  return frm_ucit_snimi->txt_ucit.Text().empty() ? "" : std::string(FileName(glavni.ukr_staza));
+}
+
 News NewsOfLoad() {
   if (glavni.dnevnik->PutBack() > 0) return News::restored;
   return glavni.dnevnik->Waiting() > 0 ? News::waiting : News::loaded;
@@ -174,7 +180,7 @@ void ucitaj_ukrstenicu() {
     if (error != 0) ShowUnselected();
   }
   glavni.vest = {.news = error == 0 ? NewsOfLoad() : News::load_failed,
-                 .files = {{std::string(FileName(glavni.ukr_staza)), error}}};
+                 .files = {{NameOfChosen(), error}}};
   UpdateFacts();
 }
 

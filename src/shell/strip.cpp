@@ -49,7 +49,7 @@ struct MenuCommand {
 
 constexpr MenuCommand menu_commands[] = {
     {{"Učitaj ukrštenicu…", "Load crossword…"}, "Ctrl+O", NoHelpPanel, Press<command::load>},
-    {{"Sačuvaj", "Save"}, "Ctrl+S", OnCrossword, Press<command::save>},
+    {{"Snimi", "Save"}, "Ctrl+S", OnCrossword, Press<command::save>},
     {{"Kraj", "Exit"}, "Ctrl+Q", Always, Press<command::end>},
     {},
     {{"Poništi", "Undo"}, "Ctrl+Z", Undoable, ponisti},
@@ -96,7 +96,7 @@ std::size_t shown_steps = 0;
 
 /// A mark for unsaved letters, and how many of the cells are filled.
 std::string Status() {
-  constexpr StripText unsaved = {"nesačuvano", "unsaved"};
+  constexpr StripText unsaved = {"nesnimljeno", "unsaved"};
   const LetterCounts& slova = glavni.slova;
   if (slova.cells == 0) return "";
   std::string status = glavni.izmenjeno ? Shown(unsaved) + "   " : "";

@@ -79,8 +79,8 @@ constexpr StepText step_texts[] = {
       "The wrong letters are erased; Ctrl+Z brings them back."},
      {"obrisana pogrešna slova", "erased wrong letters"}},
     {StepKind::earlier_work,
-     {"Raniji rad je vraćen.", "The earlier work is back."},
-     {"raniji rad", "earlier work"}},
+     {"Prethodni rad je vraćen.", "The earlier work is back."},
+     {"prethodni rad", "earlier work"}},
 };
 
 const StepText& TextOf(StepKind kind) {
@@ -88,17 +88,19 @@ const StepText& TextOf(StepKind kind) {
 }
 
 constexpr StripText undone = {"Poništeno: %.", "Undone: %."};
+constexpr StripText typed_letter = {"otkucano slovo", "typed letter"};
 constexpr StripText redone = {"Ponovljeno: %.", "Redone: %."};
 constexpr StripText loaded = {"Učitana je ukrštenica %.", "% is loaded."};
-constexpr StripText restored = {"%: vraćena su slova koja nisu bila sačuvana; `Ctrl+Z` ih uklanja.",
-                                "%: letters that were not saved are back; Ctrl+Z takes them away."};
-constexpr StripText waiting = {"%: čekaju slova koja nisu bila sačuvana; `Ctrl+Y` ih vraća.",
-                               "%: letters that were not saved wait; Ctrl+Y brings them back."};
-constexpr StripText no_journal = {" Dnevnik ukrštenice se ne vodi: %.",
-                                  " No journal of the crossword is kept: %."};
+constexpr StripText restored = {
+    "%: vraćena su slova koja nisu snimljena; `Ctrl+Z` ih uklanja korak po korak.",
+    "%: letters that were not saved are back; Ctrl+Z takes them away, step by step."};
+constexpr StripText waiting = {
+    "%: čekaju slova koja nisu snimljena; `Ctrl+Y` ih vraća korak po korak.",
+    "%: letters that were not saved wait; Ctrl+Y brings them back, step by step."};
+constexpr StripText no_journal = {"Bez dnevnika: %. ", "No journal: %. "};
 constexpr StripText not_loaded = {"Nije učitano: %.", "Not loaded: %."};
-constexpr StripText saved = {"Sačuvano: %.", "Saved: %."};
-constexpr StripText not_saved = {"Nije sačuvano: %.", "Not saved: %."};
+constexpr StripText saved = {"Snimljeno: %.", "Saved: %."};
+constexpr StripText not_saved = {"Nije snimljeno: %.", "Not saved: %."};
 constexpr StripText typed = {"`Enter` upisuje slova u ukrštenicu.",
                              "Enter writes the letters into the puzzle."};
 constexpr StripText counted = {"Pogrešnih slova: %.", "Wrong letters: %."};
@@ -151,6 +153,8 @@ std::string TextOf(const Vest& vest) {
       return SaveText(vest);
     case News::typed:
       return Shown(typed);
+    case News::untyped:
+      return Shown(undone, Shown(typed_letter));
     case News::made:
       return glavni.slova.Solved() && vest.step != StepKind::puzzle_solved ? Shown(solved)
                                                                            : Shown(step.made);
@@ -183,7 +187,7 @@ std::string NewsText() {
   const Vest& vest = glavni.vest;
   const std::string journal =
       vest.journal_error == 0 ? "" : Shown(no_journal, Reason(vest.journal_error));
-  return TextOf(vest) + journal;
+  return journal + TextOf(vest);
 }
 
 }  // namespace kalvon

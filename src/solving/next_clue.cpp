@@ -11,8 +11,9 @@ namespace kalvon {
 
 namespace {
 
-/// Whether the word has a cell that the user has not filled.
+/// Whether the word can be selected and has a cell that the user has not filled.
 bool HasEmptyCell(const WordPlace& word) {
+  if (!IsLetterCell(glavni.ukr_polja(word.first.x, word.first.y, 1))) return false;
   const bool across = word.direction == direction::across;
   const auto [first, last] = FindWord(glavni, word.first, word.direction);
   for (int place = first; place <= last; ++place) {

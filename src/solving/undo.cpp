@@ -2,6 +2,7 @@
 #include "solving/undo.h"
 
 #include "display/grid_view.h"
+#include "display/selected_word.h"
 #include "display/word_highlight.h"
 #include "document/crossword_state.h"
 #include "document/facts.h"
@@ -24,10 +25,10 @@ void ShowStep(const Step& step, News news) {
 }  // namespace
 
 bool CanUndo() {
-  return !glavni.otkucano.empty() || (glavni.dnevnik && glavni.dnevnik->Steps().LastMade());
+  return !glavni.otkucano.empty() || (glavni.dnevnik && glavni.dnevnik->Steps().LastMade() != nullptr);
 }
 
-bool CanRedo() { return glavni.dnevnik && glavni.dnevnik->Steps().LastUndone(); }
+bool CanRedo() { return glavni.dnevnik && glavni.dnevnik->Steps().LastUndone() != nullptr; }
 
 std::size_t EarlierSteps() { return glavni.dnevnik ? glavni.dnevnik->EarlierSteps() : 0; }
 
@@ -43,7 +44,9 @@ void ponovi() {
 
 void vrati_raniji_rad() {
   if (EarlierSteps() == 0) return;
-  const Step step = glavni.dnevnik->EarlierWork();
+  Step step = glavni.dnevnik->EarlierWork();
+  if (step.changes.empty()) return;
+  step.word = SelectedWord();
   Apply(glavni, step);
   glavni.dnevnik->Made(step);
   ShowStep(step, News::made);

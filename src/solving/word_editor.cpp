@@ -24,10 +24,12 @@ int EditableLetters() { return std::min(static_cast<int>(glavni.rec_tekst.size()
 void Write(int place, char letter, const std::string& shown) {
   if (place >= EditableLetters()) return;
   char& there = glavni.rec_tekst[static_cast<std::size_t>(place)];
-  if (there != letter) glavni.otkucano.push_back({place, there});
+  if (there != letter) {
+    glavni.otkucano.push_back({place, there});
+    glavni.vest = {.news = News::typed};
+  }
   there = letter;
   frm_glavni->txt_rec(place).Text(shown);
-  glavni.vest = {.news = News::typed};
 }
 
 void Write(int place, char letter) {
@@ -148,6 +150,7 @@ bool TakeBackTyped() {
   Write(place, letter);
   glavni.otkucano.resize(glavni.otkucano.size() - 2);  // With what Write has just added.
   glavni.rec_poz = place;
+  glavni.vest = {.news = News::untyped};
   FocusLetters();
   return true;
 }

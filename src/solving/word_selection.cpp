@@ -99,9 +99,16 @@ void ClickCell(int x, int y) {
 void SelectWord(const WordPlace& word) {
   if (word.direction == 0) return;
   const auto [x, y] = word.first;
+  if (!IsLetterCell(glavni.ukr_polja(x, y, 1))) return;
   if (BringIntoView(x, y)) oznaci_rec(0);
-  // The second click on a cell turns to its other word.
-  for (int clicks = 0; clicks < 2 && SelectedWord() != word; ++clicks) ClickCell(x, y);
+  if (SelectedWord() == word) return;
+  // As after a click on a clue, the direction stays through both searches of the click.
+  glavni.prelaz_smer = glavni.smer;
+  if (glavni.pret_x2 > 0 && glavni.pret_y2 > 0) glavni.prelaz_oba = 1;
+  glavni.smer = word.direction;
+  glavni.prelaz = 1;
+  ClickCell(x, y);
+  glavni.prelaz = 0;
 }
 
 }  // namespace kalvon

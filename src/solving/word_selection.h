@@ -17,7 +17,8 @@ bool BringIntoView(int x, int y);
 /// A click on the middle of a cell of the grid that the view shows.
 void ClickCell(int x, int y);
 
-/// Selects a word by a click on its first cell, after moving the view there; with direction 0 none.
+/// Selects a word by a click on its first cell, after moving the view there. A word without a
+/// direction, or whose first cell has no letter, leaves the selection as it is.
 void SelectWord(const WordPlace& word);
 
 }  // namespace kalvon

@@ -30,7 +30,7 @@ TEST_F(StripNews, TellsWhatHappenedAndMarksUnsavedWork) {
   EXPECT_EQ(NewsText(), "Reč je upisana.");
   EXPECT_TRUE(Widget("frm_glavni")->isWindowModified());
   Save();
-  EXPECT_EQ(NewsText(), "Sačuvano: mir.qvm.");
+  EXPECT_EQ(NewsText(), "Snimljeno: mir.qvm.");
   EXPECT_FALSE(Widget("frm_glavni")->isWindowModified());
 }
 
@@ -43,14 +43,14 @@ TEST_F(StripNews, TellsWhichFileWasNotSavedAndWhy) {
   WriteFile("zima1003.qvm", Qvm({"RIM"}));
   Save();
   EXPECT_EQ(NewsText(),
-            "Nije sačuvano: zima1002.qvm – datoteke nema, zima1003.qvm – na njenom mestu je druga "
-            "ukrštenica. Sačuvano: zima1001.qvm.");
+            "Nije snimljeno: zima1002.qvm – datoteke nema, zima1003.qvm – na njenom mestu je druga "
+            "ukrštenica. Snimljeno: zima1001.qvm.");
   EXPECT_TRUE(glavni.izmenjeno);
   frm_opcije->opt_opcije(0).Value(true);
   WriteFile("zima1002.qvm", bytes);
   WriteFile("zima1003.qvm", bytes);
   Save();
-  EXPECT_EQ(NewsText(), "Сачувано: zima1001.qvm, zima1002.qvm, zima1003.qvm.");
+  EXPECT_EQ(NewsText(), "Снимљено: zima1001.qvm, zima1002.qvm, zima1003.qvm.");
   EXPECT_FALSE(glavni.izmenjeno);
 }
 
@@ -64,7 +64,8 @@ TEST_F(StripNews, UnsavedLettersComeBackAfterAKillAndWaitAfterAnEnd) {
   key(Qt::Key_R);
   Restart();
   Load("mir.qvm");
-  EXPECT_EQ(NewsText(), "mir.qvm: vraćena su slova koja nisu bila sačuvana; Ctrl+Z ih uklanja.");
+  EXPECT_EQ(NewsText(),
+            "mir.qvm: vraćena su slova koja nisu snimljena; Ctrl+Z ih uklanja korak po korak.");
   EXPECT_TRUE(glavni.izmenjeno && glavni.slova.filled == 3);
   key(Qt::Key_Z);
   EXPECT_TRUE(!glavni.izmenjeno && glavni.slova.filled == 0);
@@ -73,12 +74,13 @@ TEST_F(StripNews, UnsavedLettersComeBackAfterAKillAndWaitAfterAnEnd) {
   EXPECT_EQ(ReadFile("mir.qvm"), bytes);
   Restart();
   Load("mir.qvm");
-  EXPECT_EQ(NewsText(), "mir.qvm: čekaju slova koja nisu bila sačuvana; Ctrl+Y ih vraća.");
+  EXPECT_EQ(NewsText(),
+            "mir.qvm: čekaju slova koja nisu snimljena; Ctrl+Y ih vraća korak po korak.");
   EXPECT_EQ(glavni.slova.filled, 0);
   key(Qt::Key_L);
   EXPECT_EQ(glavni.dnevnik->EarlierSteps(), 1U);
   vrati_raniji_rad();
-  EXPECT_EQ(NewsText(), "Raniji rad je vraćen.");
+  EXPECT_EQ(NewsText(), "Prethodni rad je vraćen.");
   EXPECT_EQ(frm_glavni->txt_rec(2).Text(), "R");
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <sstream>
 
+#include "solving/next_clue.h"
+#include "solving/puzzle_commands.h"
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
@@ -103,6 +105,16 @@ TEST_F(WordSelection, KeepsTheOldWordWhenAClueHasNone) {
     EXPECT_EQ(Selection(), (Word{2, x, 0, x, -1}));
     ExpectScreenOfState();
   }
+}
+
+TEST_F(WordSelection, TheNextWordWithAnEmptyCellMayCrossTheSelectedOneBehindABlock) {
+  Solve({.rows = {"#A#", "BCD", "#E#"}, .letters = {"", "BCD"}});
+  sledeca_prazna();
+  EXPECT_EQ(Selection(), (Word{2, 2, 1, 2, 3}));
+  ExpectScreenOfState();
+  resi_rec();
+  sledeca_prazna();
+  EXPECT_EQ(glavni.vest.news, News::no_empty_cell);
 }
 
 }  // namespace kalvon::testing

@@ -5,6 +5,7 @@
 #include <random>
 #include <sstream>
 
+#include "display/selected_word.h"
 #include "letters/letter_conversion.h"
 #include "solving/next_clue.h"
 #include "solving/undo.h"
@@ -98,7 +99,10 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
     } else if (choice == "Dir1") {
       frm_ucit_snimi->Dir1.Change.Raise();
     } else if (choice == "undo") {
+      const bool step = glavni.otkucano.empty() && CanUndo();
+      const WordPlace word = step ? glavni.dnevnik->Steps().LastMade()->word : WordPlace{};
       ponisti();
+      EXPECT_TRUE(word.direction == 0 || SelectedWord() == word);
     } else if (choice == "redo") {
       ponovi();
     } else if (choice == "letter") {

@@ -26,7 +26,9 @@ constexpr qsizetype length_at = list_at + 4;
 constexpr qsizetype longest_list = qsizetype{1024} * 1024;
 
 bool HasAt(const QByteArray& bytes, qsizetype at, std::string_view mark) {
-  return bytes.mid(at).startsWith({mark.data(), static_cast<qsizetype>(mark.size())});
+  const QByteArrayView wanted(mark.data(), static_cast<qsizetype>(mark.size()));
+  return bytes.size() >= at + wanted.size() &&
+         QByteArrayView(bytes).sliced(at, wanted.size()) == wanted;
 }
 
 /// Whether a number stands at a place and is no larger than a limit, in either direction.
@@ -43,10 +45,12 @@ bool FramesFit(const QByteArray& head) {
     return false;
   constexpr qsizetype width_at = 12;
   constexpr qsizetype height_at = 16;
+  qsizetype format = head.indexOf("strf");
   for (qsizetype stream = head.indexOf("strh"); stream >= 0;
        stream = head.indexOf("strh", stream + 1)) {
-    const qsizetype format = head.indexOf("strf", stream);
-    if (format < 0 || !HasAt(head, stream + kind_at, "vids")) continue;
+    if (format < stream) format = head.indexOf("strf", stream);
+    if (format < 0) break;
+    if (!HasAt(head, stream + kind_at, "vids")) continue;
     if (!KeepsWithin<qint32>(largest_side, head, format + width_at) ||
         !KeepsWithin<qint32>(largest_side, head, format + height_at))
       return false;
