@@ -110,11 +110,12 @@ void ShowStripMenu() {
   constexpr StripText caption = {"Meni", "Menu"};
   const std::string steps = std::to_string(shown_steps);
   std::vector<toolkit::MenuRow> rows;
-  for (const MenuCommand& command : menu_commands)
+  for (const MenuCommand& command : menu_commands) {
     rows.push_back({.text = Shown(command.text, steps),
                     .keys = command.keys,
                     .enabled = command.enabled,
                     .action = command.action});
+  }
   frm_glavni->strip.Menu(Shown(caption), std::move(rows));
 }
 
