@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <string>
 
@@ -14,7 +13,9 @@ struct GridCell {
   int x = 0;
   int y = 0;
 
-  auto operator<=>(const GridCell&) const = default;
+  bool operator==(const GridCell&) const = default;
+  /// Row by row.
+  bool operator<(const GridCell& other) const { return y != other.y ? y < other.y : x < other.x; }
 };
 
 /// How installments are joined into one grid, in the numbers of `nast_smer`.

@@ -50,10 +50,10 @@ class Journal {
   /// The one step that lays it over the crossword. One without changes would change nothing.
   [[nodiscard]] Step EarlierWork() const { return state_.EarlierWork(); }
 
-  /// A step was made. One without changes is none.
+  /// A step was made in the cells. One without changes is none.
   void Made(Step step);
-  /// Takes the last step back, or makes the one again that was taken back last. Returns it, or null
-  /// if there is none.
+  /// Takes the last step back in the cells, or makes the one again that was taken back last.
+  /// Returns it, to be read before the next call; null if there is none.
   const Step* Undo(Crossword& crossword);
   const Step* Redo(Crossword& crossword);
   /// A save has written these installments.

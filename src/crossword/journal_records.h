@@ -53,7 +53,7 @@ struct Record {
 };
 
 /// For how many seconds is kept what nobody asks for.
-inline constexpr std::uint64_t journal_lifetime = 365 * 24 * 60 * 60;
+inline constexpr std::uint64_t journal_lifetime = std::uint64_t{365} * 24 * 60 * 60;
 
 /// The bytes of a record.
 std::string Encode(const Record& record);

@@ -25,8 +25,10 @@ bool Fits(const Crossword& crossword, const Step& step) {
 }
 
 void Apply(Crossword& crossword, const Step& step) {
-  for (const auto& [cell, before, after] : step.changes)
-    crossword.ukr_polja.Mutable(cell.x, cell.y, 1).replace(1, before.size(), after);
+  for (const LetterChange& change : step.changes) {
+    std::string& text = crossword.ukr_polja.Mutable(change.cell.x, change.cell.y, 1);
+    text.replace(1, LettersIn(text).size(), change.after);
+  }
 }
 
 Step Inverse(Step step) {

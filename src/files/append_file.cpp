@@ -59,7 +59,7 @@ void AppendFile::Cut(std::size_t size) {
 bool AppendFile::Rename(const std::string& host_path) {
   if (std::rename(host_path_.c_str(), host_path.c_str()) != 0) return false;
   host_path_ = host_path;
-  return true;
+  return new_name_ = true;
 }
 
 int AppendFile::Append(std::string_view bytes) {
@@ -81,6 +81,11 @@ int AppendFile::Append(std::string_view bytes) {
 
 void AppendFile::KeepSynced(const std::stop_token& stop) {
   constexpr std::chrono::milliseconds pause(500);
+  if (new_name_) {
+    const std::string folder_path = host_path_.substr(0, host_path_.rfind('/') + 1);
+    const Descriptor folder(folder_path, O_RDONLY | O_DIRECTORY);
+    if (folder.IsOpen()) static_cast<void>(fsync(folder.number()));
+  }
   std::unique_lock lock(mutex_);
   // Once it is asked to stop, what was written before is still synced.
   while (written_.wait(lock, stop, [this] { return unsynced_; })) {

@@ -44,7 +44,8 @@ class AppendFile {
 
   std::string host_path_;
   Descriptor file_;
-  std::string left_;  ///< Bytes that the disk has not taken yet.
+  bool new_name_ = false;  ///< Whether the disk may not know the name yet.
+  std::string left_;       ///< Bytes that the disk has not taken yet.
   std::mutex mutex_;
   std::condition_variable_any written_;
   bool unsynced_ = false;
