@@ -33,11 +33,11 @@ std::string InScript(std::string_view text, bool latin) {
   bool kept = latin;
   while (!text.empty()) {
     const auto begins = [&](const Pair& pair) { return text.starts_with(pair.latin); };
-    const Pair* const pair = std::ranges::find_if(pairs, begins);
+    const Pair* const pair = kept ? std::end(pairs) : std::ranges::find_if(pairs, begins);
     if (text.front() == '`') {
       kept = latin || !kept;
       text.remove_prefix(1);
-    } else if (kept || pair == std::end(pairs)) {
+    } else if (pair == std::end(pairs)) {
       shown += text.front();
       text.remove_prefix(1);
     } else {
