@@ -17,7 +17,7 @@ enum class News {
   load_failed,
   saved,
   save_failed,
-  typed,  ///< Letters are in the boxes that Enter will write.
+  typed,    ///< Letters are in the boxes that Enter will write.
   untyped,  ///< The last of them is taken back.
   made,     ///< A step.
   undone,

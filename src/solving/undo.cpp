@@ -25,7 +25,8 @@ void ShowStep(const Step& step, News news) {
 }  // namespace
 
 bool CanUndo() {
-  return !glavni.otkucano.empty() || (glavni.dnevnik && glavni.dnevnik->Steps().LastMade() != nullptr);
+  return !glavni.otkucano.empty() ||
+         (glavni.dnevnik && glavni.dnevnik->Steps().LastMade() != nullptr);
 }
 
 bool CanRedo() { return glavni.dnevnik && glavni.dnevnik->Steps().LastUndone() != nullptr; }
