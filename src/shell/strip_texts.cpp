@@ -16,7 +16,7 @@ namespace {
 namespace error = files::error;
 
 struct ErrorText {
-  int error;
+  int error = 0;
   StripText text;
 };
 
@@ -48,7 +48,7 @@ std::string Reason(int number) {
 
 /// What was made, and what its undoing and redoing take for it.
 struct StepText {
-  StepKind kind;
+  StepKind kind = StepKind::word_entered;
   StripText made;
   StripText name;
 };
