@@ -35,7 +35,7 @@ class JournalTest : public CrosswordFolder {
     journal.reset();
   }
   void Make(const std::vector<std::pair<GridCell, std::string>>& letters) {
-    Step step{.word = {{1, 1}, 1}};
+    Step step{.kind = StepKind::word_solved, .word = {{3, 1}, 2}};
     for (const auto& [cell, letter] : letters) {
       const std::string plain = WithoutUserLetter(crossword.ukr_polja(cell.x, cell.y, 1));
       if (IsLetterCell(plain))
@@ -152,7 +152,7 @@ TEST_F(JournalTest, AgreesWithAPlainModelThroughKillsAndEnds) {
     ASSERT_EQ(Shown(laid), model.Laid());
   };
   int compacted = 0;
-  for (int action = 0; action < 2000 && !HasFatalFailure(); ++action) {
+  for (int action = 0; action < 1200 && !HasFatalFailure(); ++action) {
     switch (any(12)) {
       case 0:
       case 1:
@@ -353,6 +353,8 @@ TEST_F(JournalTest, GoesOnWhereAFullDiskHasStoppedIt) {
   EXPECT_EQ(Shown(crossword), shown);
   EXPECT_EQ(journal->PutBack(), 2);
   EXPECT_EQ(journal->Spent(), 60);
+  EXPECT_EQ(journal->Steps().LastMade()->word, (WordPlace{{3, 1}, 2}));
+  EXPECT_EQ(journal->Steps().LastMade()->kind, StepKind::word_solved);
 }
 
 TEST_F(JournalTest, ForgetsAfterAYear) {
