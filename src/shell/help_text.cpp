@@ -24,7 +24,7 @@ A crossword is a file whose name ends in "qvm". When its pictures, sounds and vi
 
 Some large crosswords come in installments: files whose names are the same five characters and a number of three digits, such as "frost001.qvm" and "frost002.qvm". Put those that you have into one folder and load any of them. The program finds the others by their numbers and joins them into one grid, side by side or one below the other. A missing installment leaves black squares in its place; when you get it later, put it there too and load the crossword again.
 
-A crossword that cannot be read does not load, without a message.
+A crossword that cannot be read does not load, and the line under the grid says why. F5 in the window shows files that are new in the folder.
 
 2. Solving crosswords
 
@@ -56,11 +56,22 @@ Click the pane to close it. A running video is closed by a click only when it ha
 
 Press Save. The letters that stand in the grid are written into the crossword file itself, and those of installments each into its own file. When you load the crossword again, you find it as you left it. The solutions and the clues stay as they are.
 
-The program neither asks nor saves by itself: press Save before Exit and before you load another crossword, or the letters since the last time are lost. What you typed into the boxes belongs to the grid only after Enter.
+The program neither asks nor saves by itself: press Save before Exit and before you load another crossword. What you typed into the boxes belongs to the grid only after Enter.
 
-Should the disk be full or the file be protected, the file stays as it was.
+Letters that you have not saved wait for you: when you load the crossword again, Ctrl+Y brings them back, step by step. After a crash they are there at once.
+
+Should the disk be full or the file be protected, the file stays as it was, and the line under the grid says so.
 
 4. Additional features
+
+The line under the grid says what just happened and how many cells are filled. Its button Menu, or the key F10, shows every command with its keys:
+Ctrl+O, Ctrl+S, Ctrl+Q - load, save, exit
+Ctrl+Z, Ctrl+Y - undo and redo, back to the first step
+Ctrl+L - solves the letter of the box
+Ctrl+R, Ctrl+B - solve and erase the word; with Shift, the puzzle
+Ctrl+N - goes to the next word with an empty cell
+Ctrl+P - counts the incorrect letters; with Shift, erases them
+Ctrl+T, F1 - options, help
 
 Options opens a window for the whole crossword. Each of its four buttons acts at once:
 Erase all words - takes every letter out of the grid
@@ -74,7 +85,7 @@ Alt and the underlined letter press a button. Solve and Options share the O: the
 
 Help opens this text, which you move with the scroll bar, the arrow keys, Page Up and Page Down. Press Help again, double-click the text or type any letter to close it.
 
-On Exit the program remembers the folder from which you load crosswords. Nothing else is kept from one time to the next.
+On Exit the program remembers the folder from which you load crosswords, and for each crossword what you did in it.
 
 5. Vostrand Kalvonics
 
