@@ -30,6 +30,7 @@ AppendFile::AppendFile(std::string host_path)
   struct stat status {};
   if (fstat(file_.number(), &status) != 0 || !S_ISREG(status.st_mode))
     throw RuntimeError(error::path_file_access);
+  new_name_ = status.st_size == 0;
   // A file system that knows no locks is no reason to go without the file. One that has lost its
   // name before it was locked is being replaced by another program.
   const bool taken = flock(file_.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
