@@ -19,8 +19,8 @@ namespace files {
 /// outlives the host. A thread of its own waits for the disk.
 class AppendFile {
  public:
-  /// Opens a file, or makes one that is for its owner alone. Error 70 if another program has it,
-  /// 61, 75 or 76 if it cannot be opened.
+  /// Opens a file, or makes one that is for its owner alone. Error 70 if another program has it
+  /// or there is no right to it; 61, 75 or 76 if it cannot be opened.
   explicit AppendFile(std::string host_path);
   /// Waits until the disk has it all.
   ~AppendFile();

@@ -28,7 +28,7 @@ class BinaryReader {
 /// Writes a new file in the place of an old one. A link in its place is removed and not followed.
 class BinaryWriter {
  public:
-  /// Error 61 or 75 if the file cannot be made, 76 if there is no such folder; as for HostPath.
+  /// Error 61, 70 or 75 if the file cannot be made, 76 if there is no such folder; as for HostPath.
   explicit BinaryWriter(std::string_view path);
   ~BinaryWriter();
   BinaryWriter(const BinaryWriter&) = delete;

@@ -25,8 +25,8 @@ class FileRewrite {
   /// link it stands beside the link's target instead. What an earlier run left under that name is
   /// thrown away, a link in its place is not followed. If what lies there cannot go, as a folder, a
   /// pipe or a stranger's file, the name ends in a digit instead. Error 70 if the old file exists
-  /// and is protected against writing, or if another program does not finish with it in time; 61 or
-  /// 75 if the temporary file cannot be made, 76 if there is no such folder.
+  /// and is protected against writing, or if another program does not finish with it in time; 61,
+  /// 70 or 75 if the temporary file cannot be made, 76 if there is no such folder.
   FileRewrite(std::string_view path, std::string_view temporary, Deadline deadline = InASecond());
   /// Removes the temporary file unless it has taken the old one's place.
   ~FileRewrite();
@@ -36,7 +36,7 @@ class FileRewrite {
   /// Adds a line and its end. Error 61 or 57 if the disk does not take it.
   void PrintLine(std::string_view line, std::string_view end = cr_lf);
   /// Flushes and replaces. Error 61 or 57 if the disk has not taken all of it, also in an earlier
-  /// PrintLine, 75 if the new file cannot take the old one's place; the old file then stays.
+  /// PrintLine, 70 or 75 if the new file cannot take the old one's place; the old file then stays.
   void Commit();
 
  private:

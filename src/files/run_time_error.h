@@ -44,7 +44,8 @@ class RuntimeError : public std::runtime_error {
 };
 
 /// Runs exactly one statement and passes over its failure.
-/// Returns 0, or the number of the run-time error that was passed over.
+/// Returns 0, or the number of the run-time error that was passed over. Memory that runs out is
+/// one.
 template <typename Statement>
 int pass_over(Statement statement) {
   try {

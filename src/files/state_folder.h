@@ -9,8 +9,8 @@ namespace files {
 /// document. Empty if the user has none.
 std::string StateFolder();
 
-/// Makes a folder, and those above it that are missing, for its owner alone. Error 61, 75 or 76 if
-/// that fails.
+/// Makes a folder, and those above it that are missing, for its owner alone. Error 61, 70, 75 or
+/// 76 if that fails.
 void MakeOwnFolder(const std::string& host_path);
 
 }  // namespace files
