@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "bench_program.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QTemporaryDir>
+#include <QWidget>
 #include <fstream>
 #include <stdexcept>
 
@@ -80,6 +83,7 @@ BenchProgram::BenchProgram() {
   glavni = CrosswordState{};
   toolkit::App::Path(files::LogicPath(folder_.Path()));
   setenv("XDG_STATE_HOME", (folder_.Path() + "/state").c_str(), 1);
+  setenv("XDG_CONFIG_HOME", (folder_.Path() + "/config").c_str(), 1);
   BindEvents();
   frm_glavni->Show();
 }
@@ -101,6 +105,25 @@ void BenchProgram::Choose(const std::string& name) const {
 void BenchProgram::Load() {
   dijalog_komanda(0);
   if (glavni.broj_pitanja == 0) throw std::runtime_error("the crossword did not load");
+}
+
+void BenchProgram::Zoom(double factor) {
+  QWidget* window = frm_glavni->InnerWidget()->window();
+  window->resize(QSize(640, 505) * factor);
+  Paint();
+}
+
+void BenchProgram::Paint() { QApplication::processEvents(); }
+
+void BenchProgram::Press(int key, bool with_control) {
+  for (QWidget* box : QApplication::allWidgets()) {
+    if (box->objectName() != QStringLiteral("txt_rec(0)")) continue;
+    QKeyEvent press(QEvent::KeyPress, key, with_control ? Qt::ControlModifier : Qt::NoModifier);
+    QApplication::sendEvent(box, &press);
+    Paint();
+    return;
+  }
+  throw std::runtime_error("no letter box");
 }
 
 }  // namespace kalvon::bench

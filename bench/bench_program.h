@@ -54,6 +54,12 @@ class BenchProgram {
   void Choose(const std::string& name) const;
   /// Goes on with the chosen file.
   static void Load();
+  /// Gives the main window the size that it has by a zoom.
+  static void Zoom(double factor);
+  /// Paints what has changed.
+  static void Paint();
+  /// Presses a key, of the host's numbers, in the first letter box, until the screen is painted.
+  static void Press(int key, bool with_control = false);
 
  private:
   ScratchFolder folder_;

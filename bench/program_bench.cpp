@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
+#include <QtCore/Qt>
+
 #include <string>
 
 #include "bench_program.h"
@@ -9,6 +11,7 @@
 #include "display/grid_view.h"
 #include "document/crossword_save.h"
 #include "document/crossword_state.h"
+#include "shell/commands.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "solving/clue_selection.h"
@@ -63,9 +66,83 @@ void RepaintFullView(State& state) {
   for (auto _ : state) crtaj_ukrstenicu();
 }
 
+// By the zoom, which is an argument in per mille, to the painted screen.
+
+class Zoomed : public Loaded {
+ public:
+  explicit Zoomed(const State& state) : Loaded({.columns = 15, .rows = 15}) {
+    BenchProgram::Zoom(static_cast<double>(state.range(0)) / 1000);
+  }
+};
+
+void ZoomedRepaint(State& state) {
+  const Zoomed program(state);
+  for (auto _ : state) {
+    crtaj_ukrstenicu();
+    BenchProgram::Paint();
+  }
+}
+
+void ZoomedEnter(State& state) {
+  const Zoomed program(state);
+  for (auto _ : state) BenchProgram::Press(Qt::Key_Return);
+}
+
+void ZoomedClick(State& state) {
+  const Zoomed program(state);
+  bool first = false;
+  for (auto _ : state) {
+    klik_polje(first ? 14 : 14 + 28 * 7, 14 + 28 * 6);
+    BenchProgram::Paint();
+    first = !first;
+  }
+}
+
+void ZoomedScroll(State& state) {
+  const Loaded program(largest);
+  BenchProgram::Zoom(static_cast<double>(state.range(0)) / 1000);
+  auto& bar = frm_glavni->scr_hor;
+  for (auto _ : state) {
+    bar.Value(bar.Value() == bar.Max() ? 0 : bar.Value() + 1);
+    BenchProgram::Paint();
+  }
+}
+
+/// One turn of the wheel.
+void ChangeZoom(State& state) {
+  const Loaded program({.columns = 15, .rows = 15});
+  bool larger = false;
+  for (auto _ : state) {
+    BenchProgram::Zoom(larger ? 4 : 3);
+    larger = !larger;
+  }
+}
+
 void EnterWord(State& state) {
   const Loaded program({.columns = 15, .rows = 15});
   for (auto _ : state) unos_tastera(0, enter);
+}
+
+/// Enter, undo and redo by their keys, to the painted screen.
+void PressEnter(State& state) {
+  const Loaded program(largest);
+  for (auto _ : state) BenchProgram::Press(Qt::Key_Return);
+}
+
+/// Of one word, or of all that the crossword has.
+void UndoRedo(State& state) {
+  const Loaded program(largest);
+  if (state.range(0) != 0)
+    operacija_celine(PuzzleOperation::erase_all);
+  else
+    komanda_glavni(command::erase);
+  bool undo = true;
+  for (auto _ : state) {
+    BenchProgram::Press(undo ? Qt::Key_Z : Qt::Key_Y, true);
+    undo = !undo;
+  }
+  if (glavni.vest.news != (undo ? News::redone : News::undone))
+    state.SkipWithError("no step was taken back or made again");
 }
 
 void ClickGrid(State& state) {
@@ -129,7 +206,14 @@ void ChangeScript(State& state) {
 BENCHMARK(LoadLargestFile)->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadManyInstallments)->Unit(benchmark::kMillisecond);
 BENCHMARK(RepaintFullView)->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomedRepaint)->Arg(1000)->Arg(2000)->Arg(4400)->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomedEnter)->Arg(1000)->Arg(2000)->Arg(4400)->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomedClick)->Arg(1000)->Arg(2000)->Arg(4400)->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomedScroll)->Arg(1000)->Arg(2000)->Arg(4400)->Unit(benchmark::kMillisecond);
+BENCHMARK(ChangeZoom)->Unit(benchmark::kMillisecond);
 BENCHMARK(EnterWord)->Unit(benchmark::kMillisecond);
+BENCHMARK(PressEnter)->Unit(benchmark::kMillisecond);
+BENCHMARK(UndoRedo)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(ClickGrid)->Unit(benchmark::kMillisecond);
 BENCHMARK(ScrollGrid)->Unit(benchmark::kMillisecond);
 BENCHMARK(SaveLargest)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -15,8 +15,13 @@ target_compile_options(project-options INTERFACE
 if(KALVON_SANITIZE)
     # The instrumented code misleads the compiler's search for uninitialised variables.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
-        -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+        -fno-omit-frame-pointer
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(KALVON_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 find_program(CCACHE_PROGRAM ccache)

@@ -5,7 +5,7 @@
 set -eu
 programs=$1
 folder=$(mktemp -d)
-export XDG_STATE_HOME="$folder/state"
+export XDG_STATE_HOME="$folder/state" XDG_CONFIG_HOME="$folder/config"
 trap 'rm -r "$folder"' EXIT
 
 expect() {

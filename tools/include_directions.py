@@ -25,6 +25,7 @@ class Row(NamedTuple):
 
 TOOLKIT = r"shell/toolkit/|files/"
 HOST = r"[a-z]\w*$|[\w/]+\.h$"
+RECORD = r"document/(crossword_state|news)\."
 
 # From the lowest up; the first row that fits a path is its own.
 ROWS = (
@@ -39,7 +40,7 @@ ROWS = (
     Row(r"shell/toolkit/media/", TOOLKIT, HOST),
     Row(r"shell/toolkit/windows/", TOOLKIT, HOST),
     Row(r"shell/forms/", "shell/forms/|" + TOOLKIT),
-    Row(r"document/(crossword_state|news)\.", r"document/(crossword_state|news)\.|crossword/"),
+    Row(RECORD, RECORD + "|crossword/|letters/"),
     Row(r"display/"),
     Row(r"multimedia/"),
     Row(r"document/"),

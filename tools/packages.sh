@@ -43,6 +43,28 @@ screenshot_packages=(
   xdotool
 )
 
+# For tools/accessible_tree.py.
+accessibility_packages=(
+  at-spi2-core
+  dbus
+  gir1.2-atspi-2.0
+  python3-gi
+  xvfb
+)
+
+keyboard_packages=(
+  x11-xkb-utils
+  xdotool
+)
+
+fuzz_packages=(
+  clang
+)
+
+fault_packages=(
+  strace
+)
+
 lint_packages=(
   appstream
   clang-format

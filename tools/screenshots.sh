@@ -212,7 +212,7 @@ take_installments() {
 
 require_packages "${virtual_display_packages[@]}" "${screenshot_packages[@]}"
 [[ -x $built ]] || give_up "Build the program first: ./run, or the preset release."
-export XDG_STATE_HOME=$scratch/state
+export XDG_STATE_HOME=$scratch/state XDG_CONFIG_HOME=$scratch/config
 mkdir "$scratch" || give_up "$scratch is in the way: it has to be made here."
 trap stop_all EXIT
 cp "$built" samples/*.qvm samples/*.qvd "$scratch"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "crossword/cell.h"
 
+#include <algorithm>
+
 namespace kalvon {
 
 bool IsLetterCell(std::string_view cell) { return !cell.empty() && cell.front() != '$'; }
@@ -15,11 +17,16 @@ bool IsWrong(std::string_view cell) { return ShowsUserLetter(cell) && cell[0] !=
 
 std::string_view LettersIn(std::string_view cell) { return cell.substr(1, cell.find('$') - 1); }
 
+std::string_view FieldsIn(std::string_view cell) {
+  return cell.substr(std::min(cell.find('$'), cell.size()));
+}
+
+bool DifferInLetterAtMost(std::string_view one, std::string_view other) {
+  return one.substr(0, 1) == other.substr(0, 1) && FieldsIn(one) == FieldsIn(other);
+}
+
 std::string WithoutUserLetter(std::string_view cell) {
-  const std::size_t rest = cell.find('$');
-  std::string result(cell.substr(0, 1));
-  if (rest != std::string_view::npos) result += cell.substr(rest);
-  return result;
+  return std::string(cell.substr(0, 1)).append(FieldsIn(cell));
 }
 
 std::string WithUserLetter(std::string_view cell, char letter) {

@@ -25,6 +25,10 @@ bool IsWrong(std::string_view cell);
 /// What stands in a letter cell between the solution letter and the fields: the user's letter or
 /// nothing, if the cell is as it should be.
 std::string_view LettersIn(std::string_view cell);
+/// The fields, from the first "$" on.
+std::string_view FieldsIn(std::string_view cell);
+/// Whether two cells are the same but for the user's letter.
+bool DifferInLetterAtMost(std::string_view one, std::string_view other);
 /// A letter cell without the user's letter.
 std::string WithoutUserLetter(std::string_view cell);
 /// A letter cell with this user's letter in place of the one that it has, if any.

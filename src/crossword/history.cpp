@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "crossword/history.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kalvon {
@@ -29,6 +30,24 @@ void History::Add(Step step) {
   }
   Append(std::move(step));
   ++made_;
+}
+
+void History::Extend(const Changes& changes) {
+  Changes& joined = steps_[made_ - 1].changes;
+  changes_ -= joined.size();
+  for (const LetterChange& change : changes) {
+    const auto first = std::ranges::find(joined, change.cell, &LetterChange::cell);
+    if (first == joined.end())
+      joined.push_back(change);
+    else if (first->before == change.after)
+      joined.erase(first);
+    else
+      first->after = change.after;
+  }
+  changes_ += joined.size();
+  if (!joined.empty()) return;
+  steps_.pop_back();
+  --made_;
 }
 
 void History::AddUndone(Step step) { Append(std::move(step)); }

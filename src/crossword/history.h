@@ -16,6 +16,9 @@ class History {
  public:
   /// Adds a step that was made. Steps that were taken back are forgotten.
   void Add(Step step);
+  /// Makes changes a part of the step that was made last, behind which there must be no other. Two
+  /// changes of a cell become one; a step that has none left goes.
+  void Extend(const Changes& changes);
   /// Adds, behind all others, a step that was made once and is taken back.
   void AddUndone(Step step);
 

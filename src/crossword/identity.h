@@ -17,7 +17,8 @@ std::uint64_t ContentOf(const Crossword& crossword);
 /// was not read to its end.
 std::string PlaceOf(const Crossword& crossword);
 
-/// Whether a crossword of this content lies there.
+/// Whether a crossword of this content lies there, or a file that may be one but cannot be read
+/// now.
 bool LiesAt(const std::string& place, std::uint64_t content);
 
 }  // namespace kalvon

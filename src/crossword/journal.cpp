@@ -78,9 +78,10 @@ void Journal::Compact() {
   if (failure == 0) file_ = std::make_unique<files::AppendFile>(path);
 }
 
-void Journal::Made(Step step) {
+void Journal::Made(Step step, bool goes_on) {
   if (step.changes.empty()) return;
-  Note({.kind = RecordKind::step, .step = std::move(step)});
+  const bool joins = goes_on && state_.IsStepOpen();
+  Note({.kind = joins ? RecordKind::more : RecordKind::step, .step = std::move(step)});
 }
 
 const Step* Journal::Undo(Crossword& crossword) {

@@ -50,8 +50,9 @@ class Journal {
   /// The one step that lays it over the crossword. One without changes would change nothing.
   [[nodiscard]] Step EarlierWork() const { return state_.EarlierWork(); }
 
-  /// A step was made in the cells. One without changes is none.
-  void Made(Step step);
+  /// A step was made in the cells. One without changes is none. One that `goes_on` becomes a part
+  /// of the last step, unless something has come between the two, a save say.
+  void Made(Step step, bool goes_on = false);
   /// Takes the last step back in the cells, or makes the one again that was taken back last.
   /// Returns it, to be read before the next call; null if there is none.
   const Step* Undo(Crossword& crossword);

@@ -11,6 +11,7 @@
 #include "crossword/hash.h"
 #include "crossword/identity.h"
 #include "crossword/journal_records.h"
+#include "files/descriptor.h"
 #include "files/folder_entries.h"
 #include "files/run_time_error.h"
 #include "files/state_folder.h"
@@ -29,7 +30,7 @@ struct JournalFile {
   std::uintmax_t size = 0;
 };
 
-/// All journals, the one used last first.
+/// All journals, the one used last first. Fails as an opened file if that cannot be told.
 std::vector<JournalFile> JournalsIn(const std::string& folder) {
   std::vector<JournalFile> journals;
   std::error_code failure;
@@ -41,6 +42,7 @@ std::vector<JournalFile> JournalsIn(const std::string& folder) {
     if (!gone) file.size = entry->file_size(gone);
     if (!gone && file.name.find(mark) != std::string::npos) journals.push_back(std::move(file));
   }
+  if (failure) throw files::RuntimeError(files::OpenFailure(failure.value()));
   std::ranges::sort(journals, std::ranges::greater(), &JournalFile::used);
   return journals;
 }
@@ -60,17 +62,18 @@ std::string PlaceIn(std::string_view journal) {
   return place;
 }
 
-/// The journal of a crossword of this content that no longer lies where it was.
+/// The journal of a crossword of this content that no longer lies where it was. Fails if that
+/// cannot be told: with a new journal beside it, it would never be found again.
 std::unique_ptr<files::AppendFile> FindMoved(const std::string& folder, std::uint64_t content) {
   for (const JournalFile& journal : JournalsIn(folder)) {
     if (!journal.name.starts_with(Digits(content)) || !journal.name.ends_with(mark)) continue;
     std::unique_ptr<files::AppendFile> file;
-    bool moved = false;
-    files::pass_over([&] {
-      file = std::make_unique<files::AppendFile>(journal.path);
-      moved = !LiesAt(PlaceIn(file->Bytes()), content);
-    });
-    if (moved) return file;
+    const int failure =
+        files::pass_over([&] { file = std::make_unique<files::AppendFile>(journal.path); });
+    // It is another program's, for which the crossword has not left its place, or another user's.
+    if (failure == files::error::permission_denied) continue;
+    if (failure != 0) throw files::RuntimeError(failure);
+    if (!LiesAt(PlaceIn(file->Bytes()), content)) return file;
   }
   return nullptr;
 }
@@ -85,8 +88,10 @@ std::unique_ptr<files::AppendFile> OpenJournalFile(const std::string& folder,
   const std::string path =
       files::Below(folder, Digits(content) + '-' + Digits(Hash(place)).append(mark));
   if (!files::Exists(path)) {
-    std::unique_ptr<files::AppendFile> moved = FindMoved(folder, content);
-    if (moved && moved->Rename(path)) return moved;
+    if (std::unique_ptr<files::AppendFile> moved = FindMoved(folder, content)) {
+      moved->Rename(path);
+      return moved;
+    }
   }
   return std::make_unique<files::AppendFile>(path);
 }

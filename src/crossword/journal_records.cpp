@@ -61,6 +61,7 @@ class Decoder {
     std::size_t size = 0;
     (*this)(size);
     // Each element takes a byte or more, so a wrong size ends with the bytes.
+    list.reserve(std::min(size, bytes_.size()));
     for (; size > 0 && !failed_; --size) each(list.emplace_back());
   }
   [[nodiscard]] bool TookAll() const { return !failed_ && bytes_.empty(); }
@@ -115,8 +116,8 @@ bool IsSound(const Record& record) {
   const auto known = [](auto value, auto first, auto last) {
     return value >= first && value <= last;
   };
-  return known(record.kind, RecordKind::opened, RecordKind::earlier) &&
-         known(record.step.kind, StepKind::word_entered, StepKind::earlier_work) &&
+  return known(record.kind, RecordKind::opened, RecordKind::more) &&
+         known(record.step.kind, StepKind::word_entered, StepKind::word_typed) &&
          known(record.step.word.direction, 0, direction::down) &&
          std::ranges::all_of(record.step.changes, [](const LetterChange& change) {
            return FitsCell(change.before) && FitsCell(change.after);

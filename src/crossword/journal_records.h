@@ -25,7 +25,8 @@ enum class RecordKind : std::uint8_t {
   spent,       ///< `number` more seconds have gone into it.
   // With these two, a journal that is written anew says what the others have led to.
   undone_step,  ///< Behind all others comes `step`, which is taken back.
-  earlier       ///< Earlier work of `number` steps as of `time`: `changes`, `waiting`, `laid`.
+  earlier,      ///< Earlier work of `number` steps as of `time`: `changes`, `waiting`, `laid`.
+  more          ///< `changes` have become a part of the step that was made just before.
 };
 
 /// The position in a history that none has.

@@ -23,11 +23,21 @@ JournalState::JournalState(const Crossword& crossword)
     : in_files_(UserLetters(crossword).Erased()), now_(in_files_) {}
 
 bool JournalState::Apply(Record record) {
+  const RecordKind kind = record.kind;
+  if (!Follow(std::move(record))) return false;
+  if (kind != RecordKind::more && kind != RecordKind::spent)
+    step_is_open_ = kind == RecordKind::step;
+  return true;
+}
+
+bool JournalState::Follow(Record record) {
   switch (record.kind) {
     case RecordKind::opened:
       return Open(std::move(record));
     case RecordKind::step:
       return AddStep(std::move(record.step));
+    case RecordKind::more:
+      return ExtendStep(record.step.changes);
     case RecordKind::back:
       if (history_.LastMade() == nullptr || !Make(now_, Inverse(*history_.LastMade()).changes))
         return false;
@@ -57,15 +67,22 @@ bool JournalState::Apply(Record record) {
 
 bool JournalState::Open(Record opened) {
   if (!Make(in_files_, opened.step.changes)) return false;
-  // What others have not touched is to be as it was, the rest as the files say.
-  UserLetters wanted = now_;
-  wanted.Lay(opened.step.changes);
-
   const bool killed = !std::exchange(ended_, false);
   time_ = opened.time;
   place_ = std::move(opened.place);
   if (time_ > earlier_.since + journal_lifetime) earlier_ = {};
 
+  // Nearly always the user stands where he left.
+  const bool as_left = killed ? opened.step.changes.empty() : now_ == in_files_;
+  if (!as_left) GoOn(opened.step.changes, killed);
+  return true;
+}
+
+/// Goes on with other letters than those of the last time, where others have made these changes.
+void JournalState::GoOn(const Changes& by_others, bool killed) {
+  // What others have not touched is to be as it was, the rest as the files say.
+  UserLetters wanted = now_;
+  wanted.Lay(by_others);
   const UserLetters& shown = killed ? wanted : in_files_;
   if (const std::optional<std::size_t> position = PositionOf(shown)) {
     if (!killed && *position < history_.Made()) {
@@ -77,7 +94,6 @@ bool JournalState::Open(Record opened) {
     StartAnew(in_files_.To(wanted), killed);
   }
   now_ = shown;
-  return true;
 }
 
 /// Only one step is left, which is made or waits.
@@ -99,9 +115,25 @@ bool JournalState::AddStep(Step step) {
   now_.Lay(step.changes);
   if (earlier_.laid > history_.Made()) earlier_.laid = no_position;
   history_.Add(std::move(step));
+  NoteEarlierWork();
+  return true;
+}
+
+bool JournalState::ExtendStep(const Changes& changes) {
+  if (!step_is_open_ || !now_.Fit(changes)) return false;
+  now_.Lay(changes);
+  const std::size_t made = history_.Made();
+  if (earlier_.laid == made) earlier_.laid = no_position;
+  history_.Extend(changes);
+  step_is_open_ = history_.Made() == made;
+  NoteEarlierWork();
+  return true;
+}
+
+/// Whether the history has all of the earlier work at last.
+void JournalState::NoteEarlierWork() {
   if (earlier_.laid == no_position && EarlierWork().changes.empty())
     earlier_.laid = history_.Made();
-  return true;
 }
 
 bool JournalState::Save(const Changes& changes) {

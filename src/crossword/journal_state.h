@@ -42,6 +42,8 @@ class JournalState {
   [[nodiscard]] const UserLetters& InFiles() const { return in_files_; }
   [[nodiscard]] const UserLetters& Now() const { return now_; }
   [[nodiscard]] const History& Steps() const { return history_; }
+  /// Whether the last step can become more: nothing but time has passed since it was made.
+  [[nodiscard]] bool IsStepOpen() const { return step_is_open_; }
   /// Steps that were made, not saved, and wait to be made again.
   [[nodiscard]] std::size_t Waiting() const;
   /// Steps of the earlier work, and the one step that lays it over the present letters.
@@ -59,8 +61,12 @@ class JournalState {
   };
 
   bool Open(Record opened);
+  void GoOn(const Changes& by_others, bool killed);
   void StartAnew(Changes unsaved, bool made);
+  bool Follow(Record record);
   bool AddStep(Step step);
+  bool ExtendStep(const Changes& changes);
+  void NoteEarlierWork();
   bool Save(const Changes& changes);
   bool TakeEarlier(const Record& record);
   void KeepWaiting();
@@ -76,6 +82,7 @@ class JournalState {
   std::uint64_t time_ = 0;  ///< Of the last load.
   std::string place_;
   bool ended_ = true;
+  bool step_is_open_ = false;
 };
 
 }  // namespace kalvon

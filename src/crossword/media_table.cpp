@@ -7,6 +7,7 @@
 #include <span>
 
 #include "crossword/fields.h"
+#include "crossword/settings_file.h"
 #include "files/binary_file.h"
 #include "files/folder_entries.h"
 

@@ -29,9 +29,6 @@ void CutOut(const std::string& pack_path, const PackEntry& entry, const std::str
 // The file of a medium lies in the program's folder for as long as it is on show. Its name comes
 // from a crossword that a stranger wrote, so not every name may be written and deleted there.
 
-/// The name of the file that keeps the settings.
-inline constexpr std::string_view settings_name = "m_kalvon_ini.txt";
-
 /// The kind of the medium that a name may stand for: null unless it is a bare file name that ends
 /// as a medium's does, and not the settings file's. Nothing else is ever written: the host reads
 /// files of other names where a program lies.

@@ -62,8 +62,10 @@ void CountCell(Crossword& crossword, std::string_view cell) {
 }
 
 void ReadCell(Crossword& crossword, files::TextReader& file, const CellWalk& walk, bool own) {
+  // Behind a file that cannot be read on, there may be no cell left: that is not what went wrong.
+  std::string line = file.Line();
   std::string& cell = crossword.ukr_polja.Mutable(walk.x(), walk.y(), 1);
-  cell = file.Line();
+  cell = std::move(line);
   if (own) CountCell(crossword, cell);
   crossword.ukr_polja.Mutable(walk.x(), walk.y(), 2) = ReadAttributes(file, own && walk.AtLast());
 }

@@ -20,7 +20,8 @@ enum class StepKind : std::uint8_t {
   puzzle_solved,
   puzzle_erased,
   wrong_erased,
-  earlier_work  ///< Steps of an earlier time, laid over the crossword as one.
+  earlier_work,  ///< Steps of an earlier time, laid over the crossword as one.
+  word_typed     ///< Letters that went into the cells as they were typed.
 };
 
 /// A change of what stands between the solution letter and the first "$" of a cell string: in a

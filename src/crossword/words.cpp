@@ -59,4 +59,10 @@ WordSpan FindWord(const Crossword& crossword, GridCell cell, int direction) {
   return {first, LastFrom(line, first)};
 }
 
+bool LiesInWord(const Crossword& crossword, GridCell cell, int direction) {
+  const auto [first, last] = FindWord(crossword, cell, direction);
+  const int place = direction == direction::across ? cell.x : cell.y;
+  return place >= first && place <= last;
+}
+
 }  // namespace kalvon

@@ -16,4 +16,7 @@ struct WordSpan {
 /// empty. Error 9 for a cell outside the grid.
 WordSpan FindWord(const Crossword& crossword, GridCell cell, int direction);
 
+/// Whether a word of the direction lies in a cell of the grid.
+bool LiesInWord(const Crossword& crossword, GridCell cell, int direction);
+
 }  // namespace kalvon

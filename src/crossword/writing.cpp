@@ -24,7 +24,7 @@ void WriteCells(files::FileRewrite& rewrite, files::TextReader& file, const Cros
   for (int left = crossword.nast_polja(installment); left > 0; --left) {
     walk.Next();
     const std::string& cell = crossword.ukr_polja(walk.x(), walk.y(), 1);
-    if (WithoutUserLetter(file.Line()) != WithoutUserLetter(cell))
+    if (!DifferInLetterAtMost(file.Line(), cell))
       throw files::RuntimeError(files::error::invalid_file_format);
     rewrite.PrintLine(cell, file.LineEnd());
     rewrite.PrintLine(ReadAttributes(file, walk.AtLast()), file.LineEnd());

@@ -28,11 +28,16 @@ void oznaci_pitanje(int strana, int red) {
 }
 
 void ugasi_oznaku_pitanja(int strana) {
+  ShowBarAnew(strana);  // A second time takes it off.
+  const auto [first, last] = BarOfList(strana);
+  first = 0;
+  last = 0;
+}
+
+void ShowBarAnew(int strana) {
   const auto [first, last] = BarOfList(strana);
   if (first <= 0 || last <= 0) return;
   InvertRows(strana == direction::down ? strana : direction::across, first, last);
-  first = 0;
-  last = 0;
 }
 
 void MarkSelectedClue(int strana) {

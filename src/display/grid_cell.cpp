@@ -6,6 +6,7 @@
 
 #include "crossword/cell.h"
 #include "crossword/fields.h"
+#include "display/colours.h"
 #include "display/fonts.h"
 #include "display/grid_geometry.h"
 #include "display/writing.h"
@@ -28,7 +29,7 @@ struct Origin {
 };
 
 void DrawGrayBlock(Origin cell) {
-  frm_glavni->pic_ukr.FilledBox(cell.x + 1, cell.y, cell.x + 26, cell.y + 26, block_gray);
+  frm_glavni->pic_ukr.FilledBox(cell.x + 1, cell.y, cell.x + 26, cell.y + 26, ShownColours().block);
 }
 
 void DrawBlackSquare(Origin cell) {

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "shell/toolkit/input/picture_box.h"
-
 namespace kalvon {
 
 /// Pixels from one cell of the grid picture to the next; the last of them is the grid line.
@@ -13,9 +11,6 @@ inline constexpr int cell_pitch = 28;
 inline constexpr int view_cells = 15;
 /// Pixels of the view in each direction.
 inline constexpr int view_size = view_cells * cell_pitch;
-
-/// What lies beyond the grid, and the blocks in it.
-inline constexpr toolkit::Colour block_gray = 0xC0C0C0;
 
 /// Whether a view that begins with the grid column or row `first` shows the given one.
 constexpr bool InView(int column_or_row, int first) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "display/colours.h"
 #include "display/fonts.h"
 #include "display/grid_cell.h"
 #include "display/grid_geometry.h"
@@ -21,9 +22,9 @@ constexpr toolkit::Colour black = 0x000000;
 /// Fills what a grid smaller than the view leaves of it.
 void DrawRemainder(int columns, int rows) {
   auto& picture = frm_glavni->pic_ukr;
-  if (columns < view_cells)
-    picture.FilledBox(columns * cell_pitch, 1, view_size, view_size, block_gray);
-  if (rows < view_cells) picture.FilledBox(1, rows * cell_pitch, view_size, view_size, block_gray);
+  const toolkit::Colour block = ShownColours().block;
+  if (columns < view_cells) picture.FilledBox(columns * cell_pitch, 1, view_size, view_size, block);
+  if (rows < view_cells) picture.FilledBox(1, rows * cell_pitch, view_size, view_size, block);
 }
 
 void DrawGridLines() {

@@ -5,8 +5,8 @@
 
 namespace kalvon {
 
-/// Marks a rectangle of a picture, both corners included: white turns pale yellow and black dark
-/// blue. The same call again gives the picture back.
+/// Marks a rectangle of a picture, both corners included. The same call again gives the picture
+/// back, unless the user has chosen other colours in between.
 void Invert(toolkit::PictureBox& picture, int x1, int y1, int x2, int y2);
 
 }  // namespace kalvon

@@ -71,12 +71,16 @@ void ugasi_oznaku_reci() {
     InvertDown(s.pret_x1, s.pret_y1, s.pret_y2);
 }
 
-void oznaci_rec(int poziv) {
-  if (poziv == 1) SettleDirection();
+void ShowMarkAnew() {
   if (glavni.smer == direction::across)
     InvertAcross(glavni.rec_x1, glavni.rec_x2, glavni.rec_y1);
   else
     InvertDown(glavni.rec_x1, glavni.rec_y1, glavni.rec_y2);
+}
+
+void oznaci_rec(int poziv) {
+  if (poziv == 1) SettleDirection();
+  ShowMarkAnew();
   if (poziv == 1 && glavni.iz_liste == 0) BringClueToHead();
   prikazi_rec();
 }

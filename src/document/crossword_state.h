@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,14 +39,32 @@ struct CrosswordState : Crossword {
   Int16 sel_strana;                       ///< List that has its bar: 1 across, 2 down.
   std::string rec_tekst;                  ///< Letters in the editor, "_" for an empty place.
   std::vector<GridCell> rec_polja;        ///< Cells that the letters in the editor belong to.
-  Int16 rec_poz;                          ///< Index of the focused letter box.
+  Int16 rec_poz;                          ///< Letter of the word at which the keys act, from 0.
+  int rec_prvo = 0;                       ///< Letter in the first box; not 0 in a long word alone.
+  char32_t znak = 0;                      ///< Last character typed, as the keyboard gave it.
   std::vector<TypedPlace> otkucano;       ///< What was typed since the boxes were filled.
+  bool rec_se_kuca = false;  ///< Whether the last step was typed into the word in the editor.
+
+  // Choices of the menu.
+  bool bira_jedinu = false;    ///< A click on a cell with one word selects it.
+  bool upis_u_hodu = false;    ///< Letters go into the cells as they are typed.
+  bool vreme_u_traci = false;  ///< The strip shows the time spent.
 
   // Steps, and what the user is told.
   std::shared_ptr<Journal> dnevnik;  ///< None before a crossword, and after a load that failed.
   LetterCounts slova;
   bool izmenjeno = false;  ///< Whether the letters differ from those in the files.
   Vest vest;
+
+  // Time spent on the crossword.
+  /// When it was last counted; none while the window is not active.
+  std::optional<std::chrono::steady_clock::time_point> vreme_od;
+  std::chrono::steady_clock::duration vreme_ostatak{};  ///< What the journal does not have yet.
+
+  bool visok_kontrast = false;  ///< Whether black, white and one strong colour are drawn with.
+
+  /// Whether the letters of the other script's keyboard are taken.
+  bool sve_tastature = false;
 
   // Clue lists: (n, column, side), side 1 across and 2 down; column 1 text, 2 x, 3 y, 4 rows,
   // 5 media name.

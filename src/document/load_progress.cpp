@@ -2,6 +2,7 @@
 #include "document/load_progress.h"
 
 #include "crossword/reading.h"
+#include "display/colours.h"
 #include "document/crossword_state.h"
 #include "shell/forms/frm_ucit_snimi.h"
 
@@ -19,7 +20,7 @@ void napredak() {
   glavni.napredak_br = 0;
   glavni.napredak_x = glavni.napredak_x + 1;
   toolkit::PictureBox& bar = frm_ucit_snimi->pic_status;
-  bar.FilledBox(glavni.napredak_x, 0, glavni.napredak_x, bar.Height(), 0xC0C0C0);
+  bar.FilledBox(glavni.napredak_x, 0, glavni.napredak_x, bar.Height(), ShownColours().block);
 }
 
 void ProgressStep() {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "crossword/step.h"
+#include "letters/typed_character.h"
 
 namespace kalvon {
 
@@ -19,11 +20,14 @@ enum class News {
   save_failed,
   typed,    ///< Letters are in the boxes that Enter will write.
   untyped,  ///< The last of them is taken back.
-  made,     ///< A step.
+  letter_refused,
+  made,  ///< A step.
   undone,
   redone,
   counted,  ///< Wrong letters.
   no_empty_cell,
+  nothing_selected,  ///< By a click on a cell with one word, whose direction was not at hand.
+  no_crossing_word,
   about,  ///< The program.
 };
 
@@ -39,6 +43,7 @@ struct Vest {
   StepKind step = StepKind::word_entered;
   std::vector<FileNews> files = {};
   int count = 0;
+  Refusal refusal = Refusal::no_letter;
   int journal_error = 0;  ///< 0, or why the journal cannot be kept from now on.
 };
 

@@ -57,10 +57,11 @@ void AppendFile::Cut(std::size_t size) {
     throw RuntimeError(WriteFailure(errno));
 }
 
-bool AppendFile::Rename(const std::string& host_path) {
-  if (std::rename(host_path_.c_str(), host_path.c_str()) != 0) return false;
+void AppendFile::Rename(const std::string& host_path) {
+  if (std::rename(host_path_.c_str(), host_path.c_str()) != 0)
+    throw RuntimeError(OpenFailure(errno));
   host_path_ = host_path;
-  return new_name_ = true;
+  new_name_ = true;
 }
 
 int AppendFile::Append(std::string_view bytes) {

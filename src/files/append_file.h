@@ -32,8 +32,8 @@ class AppendFile {
   [[nodiscard]] std::string Bytes() const;
   /// Leaves only the first bytes. Error 57 or 61 if that fails.
   void Cut(std::size_t size);
-  /// Gives the file another name in the same file system; whether it now has it.
-  bool Rename(const std::string& host_path);
+  /// Gives the file another name in the same file system. Error 61, 70, 75 or 76 if that fails.
+  void Rename(const std::string& host_path);
 
   /// Adds bytes. Those that the disk does not take are kept, and go before the next. Returns the
   /// number of the error that holds them back, 61 or 57, or 0.

@@ -77,7 +77,7 @@ std::string TextReader::Line() {
     }
     std::string line = buffer_.substr(position_, length);
     position_ = end == std::string::npos ? buffer_.size() : end + line_end.size();
-    if (line_end == lf && line.ends_with('\r')) line.pop_back();
+    while (line_end == lf && line.ends_with('\r')) line.pop_back();
     return line;
   }
 }

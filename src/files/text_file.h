@@ -7,7 +7,7 @@
 namespace files {
 
 /// What ends the lines of a text file: CR LF, or what its first line says. If that one ends in LF
-/// alone, all do, and a CR that stands before an LF goes with it.
+/// alone, all do, and each CR that stands before an LF goes with it.
 inline constexpr std::string_view cr_lf = "\r\n";
 inline constexpr std::string_view as_the_first_line;
 

@@ -50,22 +50,21 @@ std::string LatinCodePage(std::string_view letter) {
   return elsewhere ? std::string(1, known->latin) : std::string();
 }
 
-TypedLetter LetterOfAscii(char key, const Writing& writing) {
+char LetterOfAscii(char key, const Writing& writing) {
   const std::string_view stored = slovo_veliko({&key, 1}, writing);
-  if (stored.empty() || azbuka(writing.english).find(stored) == std::string_view::npos) return {};
-  return {stored.front(), Or(slovo_digraf(stored, writing), stored)};
+  const bool known = azbuka(writing.english).find(stored) != std::string_view::npos;
+  return stored.empty() || !known ? '\0' : stored.front();
 }
 
-TypedLetter LetterOfCodePage(char key, const Writing& writing) {
-  if (writing.english) return {};
+char LetterOfCodePage(char key, const Writing& writing) {
+  if (writing.english) return '\0';
   const auto typed_by_key = [&](const AlphabetLetter& letter) {
     return writing.latin ? key == letter.latin || key == letter.latin_small
                          : key == letter.cyrillic || key == letter.cyrillic_small;
   };
   const auto alphabet = SerbianAlphabet();
   const auto found = std::ranges::find_if(alphabet, typed_by_key);
-  if (found == alphabet.end()) return {};
-  return {found->stored, ShownLetter(found->stored, writing)};
+  return found == alphabet.end() ? '\0' : found->stored;
 }
 
 }  // namespace
@@ -116,8 +115,8 @@ std::string ShownText(std::string_view text, const Writing& writing) {
   return Converted(text, slovo_digraf, writing);
 }
 
-TypedLetter LetterOfKey(int key_code, const Writing& writing) {
-  if (key_code < 0 || key_code > 0xFF) return {};
+char LetterOfKey(int key_code, const Writing& writing) {
+  if (key_code < 0 || key_code > 0xFF) return '\0';
   const char key = static_cast<char>(key_code);
   return writing.code_page ? LetterOfCodePage(key, writing) : LetterOfAscii(key, writing);
 }

@@ -35,14 +35,8 @@ std::string ShownClue(std::string_view text, const Writing& writing);
 /// The running text of a multimedia clue, with its digraph letters expanded.
 std::string ShownText(std::string_view text, const Writing& writing);
 
-/// A typed letter: its stored form, and its shown form for the letter box.
-struct TypedLetter {
-  char stored = 0;
-  std::string shown;
-};
-
-/// What a typed character (its code in the code page of the layout) stands for; `stored` is 0 for a
-/// character that is no letter.
-TypedLetter LetterOfKey(int key_code, const Writing& writing);
+/// The stored letter that a typed character (its code in the code page of the layout) stands for; 0
+/// for a character that is no letter.
+char LetterOfKey(int key_code, const Writing& writing);
 
 }  // namespace kalvon

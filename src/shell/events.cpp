@@ -3,7 +3,9 @@
 
 #include "display/clue_lists.h"
 #include "display/grid_scroll.h"
+#include "display/repaint.h"
 #include "document/crossword_state.h"
+#include "document/time_spent.h"
 #include "multimedia/media_pane.h"
 #include "shell/browser_link.h"
 #include "shell/commands.h"
@@ -14,9 +16,11 @@
 #include "shell/help.h"
 #include "shell/load_dialog.h"
 #include "shell/options_dialog.h"
+#include "shell/spoken_pictures.h"
 #include "shell/startup.h"
 #include "shell/strip.h"
 #include "shell/toolkit/windows/application.h"
+#include "shell/zoom.h"
 #include "solving/clue_selection.h"
 #include "solving/word_editor.h"
 #include "solving/word_selection.h"
@@ -53,12 +57,20 @@ void BindMediaPane(FrmGlavni& form) {
 
 void BindMainForm(FrmGlavni& form) {
   form.Resize = [] { HoldSize(); };
+  form.Rescaled = [] {
+    iscrtaj_sve();
+    ShowZoom();
+  };
+  form.ZoomWheel = [](bool away) { away ? uvecaj() : umanji(); };
+  form.Activate = nastavi_vreme;
+  form.Deactivate = zastani_vreme;
+  form.minute.Elapsed = meri_vreme;
   form.Unload = [](bool&) { komanda_glavni(command::end); };
   form.HostEnds = [] { prekini(); };
   form.cmd_glavni.ForEach([](toolkit::Button& button) {
     button.Click = [index = button.Index()] { komanda_glavni(index); };
   });
-  form.pic_ukr.MouseDown = [](int, int, double x, double y) { klik_polje(x, y); };
+  form.pic_ukr.MouseDown = [](int, int, double x, double y) { klik_misem(x, y); };
   form.pic_tekst.ForEach([](toolkit::PictureBox& list) {
     list.MouseDown = [index = list.Index()](int button, int, double x, double y) {
       klik_pitanje(index, button, x, y);
@@ -77,6 +89,7 @@ void BindMainForm(FrmGlavni& form) {
       key_code = 0;
       unos_tastera(index, pressed);
     };
+    box.Typed = primi_znak;
     box.KeyPress = [index = box.Index()](int& character) {
       const int typed = character;
       character = 0;
@@ -104,13 +117,15 @@ void BindLoadDialog(FrmUcitSnimi& form) {
     if (character == enter) dijalog_komanda(0);
   };
   form.txt_ucit.Change = [] { opis_fajla(); };
-  form.Shortcut("F5") = [] { RereadFolder(); };
+  form.Shortcut("F5") = [](bool&) { RereadFolder(); };
+  form.Shortcut("Esc") = [](bool&) { zatvori_dijalog(); };
 }
 
 void BindOptions(FrmOpcije& form) {
   form.cmd_opcije.ForEach([](toolkit::Button& button) {
     button.Click = [index = button.Index()] { komanda_opcije(index); };
   });
+  form.Shortcut("Esc") = [](bool&) { komanda_opcije(option_command::go_on); };
 }
 
 void BindHelp(FrmHelp& form) {
@@ -120,7 +135,10 @@ void BindHelp(FrmHelp& form) {
 }  // namespace
 
 void BindEvents() {
-  toolkit::AfterEvents([] { UpdateStrip(); });
+  toolkit::AfterEvents([] {
+    UpdateStrip();
+    TellPictures();
+  });
   frm_glavni.Load = [](FrmGlavni& form) {
     BindMainForm(form);
     pokreni();

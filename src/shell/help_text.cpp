@@ -44,6 +44,8 @@ Right, Down - moves on
 Home, End - moves to the first or to the last letter
 Enter - writes the word into the grid
 
+In a word of more than 15 letters the boxes slide; the numbers above them tell which letters they show. With Letters of all keyboards in the menu you can type on a Serbian keyboard too.
+
 When you are stuck, Solve writes the right letters of the chosen word into the grid, and Erase takes all its letters out again, also those that belong to crossing words.
 
 Multimedia
@@ -64,14 +66,24 @@ Should the disk be full or the file be protected, the file stays as it was, and 
 
 4. Additional features
 
-The line under the grid says what just happened and how many cells are filled. Its button Menu, or the key F10, shows every command with its keys:
+The line under the grid says what just happened and how many cells are filled; Show time in its menu, under View, adds the hours and minutes that you have spent on the crossword. Its button Menu, or the key F10, shows every command with its keys:
 Ctrl+O, Ctrl+S, Ctrl+Q - load, save, exit
 Ctrl+Z, Ctrl+Y - undo and redo, back to the first step
 Ctrl+L - solves the letter of the box
 Ctrl+R, Ctrl+B - solve and erase the word; with Shift, the puzzle
 Ctrl+N - goes to the next word with an empty cell
 Ctrl+P - counts the incorrect letters; with Shift, erases them
+Ctrl and +, -, 0 or the mouse wheel, F11 - the size of the window, full screen
 Ctrl+T, F1 - options, help
+Ctrl and an arrow - goes to the next cell of the grid, over the black ones
+Ctrl+Enter - turns to the other word of the cell
+Alt+Down, Alt+Up - go to the next clue of the list and back; Alt+Left or Alt+Right to the other list
+Page Down, Page Up - turn the page of the list
+Alt+Enter, Esc - open what the clue has to see or to hear, and close it
+
+Choices in the menu are remembered. With one, a click on a cell that has only one word always chooses that word. With the other, each letter goes into the grid as you type it, without Enter, and Ctrl+Z brings the whole word back as it was.
+
+High contrast in the menu draws everything in black and white, and the chosen word and its clue in yellow with dashes below. To a screen reader the grid is a table and the clues are lists; pressing the grid enters the word, as the Enter key does.
 
 Options opens a window for the whole crossword. Each of its four buttons acts at once:
 Erase all words - takes every letter out of the grid

@@ -1,14 +1,35 @@
 // SPDX-License-Identifier: MIT
+#include <cstdlib>
+#include <optional>
+#include <span>
+#include <string_view>
+
 #include "shell/events.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
+#include "shell/zoom.h"
+
+namespace {
+
+/// The percentage of "--zoom PERCENT".
+std::optional<int> NamedZoom(std::span<char*> arguments) {
+  for (std::size_t i = 0; i + 1 < arguments.size(); ++i)
+    if (std::string_view(arguments[i]) == "--zoom") return std::atoi(arguments[i + 1]);
+  return std::nullopt;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   toolkit::Application application(argc, argv);
+  kalvon::ChooseZoom(NamedZoom(std::span(argv, static_cast<std::size_t>(argc))));
   kalvon::BindEvents();
   kalvon::FrmGlavni& start = *kalvon::frm_glavni;
-  if (!toolkit::Ended()) start.Show();
+  if (!toolkit::Ended()) {
+    kalvon::RestoreWindow();
+    start.Show();
+  }
   const int status = application.Run();
   kalvon::UnloadForms();
   return status;

@@ -8,6 +8,7 @@
 #include "document/crossword_state.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
+#include "shell/spoken_names.h"
 #include "shell/strip.h"
 #include "solving/puzzle_commands.h"
 
@@ -77,6 +78,7 @@ void komanda_opcije(int index) {
     case option_command::go_on:
       primeni_font();
       ShowStripMenu();
+      NameControls();
       return sakrij_opcije();
     case option_command::erase_all:
       return operacija_celine(PuzzleOperation::erase_all);

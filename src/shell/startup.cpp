@@ -6,18 +6,23 @@
 #include "document/crossword_state.h"
 #include "document/journal_keeping.h"
 #include "document/settings.h"
+#include "document/time_spent.h"
 #include "files/host_paths.h"
 #include "multimedia/media_pane.h"
+#include "shell/contrast.h"
 #include "shell/english_captions.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_opcije.h"
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/options_dialog.h"
+#include "shell/spoken_names.h"
+#include "shell/spoken_pictures.h"
 #include "shell/strip.h"
 #include "shell/toolkit/desktop/screen.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
+#include "shell/zoom.h"
 
 namespace kalvon {
 
@@ -78,13 +83,19 @@ void Start() {
   glavni.smer = direction::down;
   glavni.rec_x1 = glavni.rec_y1 = glavni.rec_x2 = glavni.rec_y2 = 0;
   glavni.pre_ucitavanja = 1;
+  frm_glavni->ZoomGrain(cell_pitch);
   DisableWhatNeedsACrossword();
   ucitaj_ini();
+  ucitaj_izbor();
+  primeni_kontrast();
   glavni.pomoc_otvorena = 0;
   ChooseFont();
   if (glavni.jezik == 1) WriteEnglishCaptions();
   pocisti_dnevnike();
   ShowStripMenu();
+  NameControls();
+  DescribePictures();
+  ShowZoom();
   UpdateStrip();
   glavni.forma_sirina = frm_glavni->Width();
   glavni.forma_visina = frm_glavni->Height();
@@ -106,8 +117,10 @@ void kraj() {
 }
 
 void prekini() {
+  upisi_vreme();
   files::pass_over([] { zatvori_media(); });
   snimi_ini();
+  SaveWindow();
   toolkit::End();
 }
 

@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "shell/strip.h"
 
+#include <cstdint>
+#include <span>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "document/crossword_state.h"
+#include "document/settings.h"
+#include "multimedia/media_pane.h"
 #include "shell/commands.h"
+#include "shell/contrast.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/help.h"
 #include "shell/strip_texts.h"
 #include "shell/toolkit/windows/strip.h"
+#include "shell/zoom.h"
+#include "solving/cell_movement.h"
+#include "solving/clue_movement.h"
 #include "solving/next_clue.h"
 #include "solving/puzzle_commands.h"
 #include "solving/undo.h"
@@ -38,6 +45,51 @@ void OnPuzzle() {
   operacija_celine(Operation);
 }
 
+template <bool CrosswordState::*Choice>
+bool IsChosen() {
+  return glavni.*Choice;
+}
+
+template <bool CrosswordState::*Choice>
+void TurnChoice() {
+  glavni.*Choice = !(glavni.*Choice);
+  snimi_izbor();
+}
+
+template <int Columns, int Rows>
+void MoveCell() {
+  pomeri_polje(Columns, Rows);
+}
+
+/// Whether the keys that turn pages are those of the clue lists: a bar that has the focus, or a
+/// text, turns its own.
+bool TurnsClues() {
+  bool others = false;
+  const auto look = [&](const toolkit::Control& control) { others |= control.HasFocus(); };
+  frm_glavni->scr_tekst.ForEach(look);
+  frm_glavni->txt_media.ForEach(look);
+  look(frm_glavni->scr_hor);
+  look(frm_glavni->scr_ver);
+  return OnCrossword() && !others;
+}
+
+bool CanOpenMedium() { return OnCrossword() && HasMedium(); }
+
+void ChangeContrast() {
+  TurnChoice<&CrosswordState::visok_kontrast>();
+  primeni_kontrast();
+}
+
+bool FillsScreen() { return frm_glavni->FullScreen(); }
+bool ShowsMedium() { return frm_glavni->pic_media(media_picture::pane).Visible(); }
+bool CanLeave() { return !NoHelpPanel() || ShowsMedium() || FillsScreen(); }
+
+/// Closes what lies nearest to the user.
+void Leave() {
+  if (!NoHelpPanel()) return zatvori_pomoc();
+  ShowsMedium() ? zatvori_media() : ceo_ekran();
+}
+
 void About() { glavni.vest = {.news = News::about}; }
 
 struct MenuCommand {
@@ -45,6 +97,72 @@ struct MenuCommand {
   const char* keys = "";
   bool (*enabled)() = Always;
   void (*action)() = nullptr;
+  bool (*checked)() = nullptr;
+  std::span<const MenuCommand> more = {};  ///< What a command without action opens.
+};
+
+constexpr MenuCommand movements[] = {
+    {{"Polje levo", "Cell to the left"}, "Ctrl+Left", OnCrossword, MoveCell<-1, 0>},
+    {{"Polje desno", "Cell to the right"}, "Ctrl+Right", OnCrossword, MoveCell<1, 0>},
+    {{"Polje gore", "Cell above"}, "Ctrl+Up", OnCrossword, MoveCell<0, -1>},
+    {{"Polje dole", "Cell below"}, "Ctrl+Down", OnCrossword, MoveCell<0, 1>},
+    {{"Drugi smer", "Other direction"}, "Ctrl+Enter;Ctrl+Return", OnCrossword, okreni_smer},
+    {},
+    {{"Sledeće pitanje", "Next clue"}, "Alt+Down", OnCrossword, sledece_pitanje},
+    {{"Prethodno pitanje", "Previous clue"}, "Alt+Up", OnCrossword, prethodno_pitanje},
+    {{"Drugi spisak (ili `Alt+Right`)", "Other list (or Alt+Right)"},
+     "Alt+Left;Alt+Right",
+     OnCrossword,
+     drugi_spisak},
+    {{"Sledeća strana spiska", "Next page of the list"}, "PgDown", TurnsClues, sledeca_strana},
+    {{"Prethodna strana spiska", "Previous page of the list"},
+     "PgUp",
+     TurnsClues,
+     prethodna_strana},
+    {},
+    {{"Otvori multimediju", "Open multimedia"},
+     "Alt+Enter;Alt+Return",
+     CanOpenMedium,
+     otvori_pitanje},
+    {{"Zatvori multimediju ili ceo ekran", "Close help, multimedia or full screen"},
+     "Esc",
+     CanLeave,
+     Leave},
+};
+
+constexpr MenuCommand views[] = {
+    {{"Uvećaj", "Zoom in"}, "Ctrl++;Ctrl+Shift++;Ctrl+=", Always, uvecaj},
+    {{"Umanji", "Zoom out"}, "Ctrl+-", Always, umanji},
+    {{"Prirodna veličina", "Actual size"}, "Ctrl+0", Always, prirodna_velicina},
+    {{"Ceo ekran", "Full screen"}, "F11", Always, ceo_ekran, FillsScreen},
+    {{"Visok kontrast", "High contrast"},
+     "",
+     Always,
+     ChangeContrast,
+     IsChosen<&CrosswordState::visok_kontrast>},
+    {{"Prikaži vreme", "Show time"},
+     "",
+     Always,
+     TurnChoice<&CrosswordState::vreme_u_traci>,
+     IsChosen<&CrosswordState::vreme_u_traci>},
+};
+
+constexpr MenuCommand choices[] = {
+    {{"Klik bira jedinu reč polja", "A click selects a cell's only word"},
+     "",
+     Always,
+     TurnChoice<&CrosswordState::bira_jedinu>,
+     IsChosen<&CrosswordState::bira_jedinu>},
+    {{"Upisuj slova bez tastera `Enter`", "Write letters without Enter"},
+     "",
+     Always,
+     TurnChoice<&CrosswordState::upis_u_hodu>,
+     IsChosen<&CrosswordState::upis_u_hodu>},
+    {{"Slova svih tastatura", "Letters of all keyboards"},
+     "",
+     Always,
+     TurnChoice<&CrosswordState::sve_tastature>,
+     IsChosen<&CrosswordState::sve_tastature>},
 };
 
 constexpr MenuCommand menu_commands[] = {
@@ -66,6 +184,7 @@ constexpr MenuCommand menu_commands[] = {
      "Ctrl+N",
      OnCrossword,
      sledeca_prazna},
+    {.text = {"Kretanje", "Movement"}, .more = movements},
     {},
     {{"Reši ukrštenicu", "Solve puzzle"},
      "Ctrl+Shift+R",
@@ -84,6 +203,8 @@ constexpr MenuCommand menu_commands[] = {
      OnCrossword,
      OnPuzzle<PuzzleOperation::erase_wrong>},
     {},
+    {.text = {"Prikaz", "View"}, .more = views},
+    {.text = {"Izbori", "Choices"}, .more = choices},
     {{"Opcije…", "Options…"}, "Ctrl+T", OnCrossword, Press<command::options>},
     {},
     {{"Uputstvo", "Help"}, "F1", Always, Press<command::help>},
@@ -94,13 +215,31 @@ constexpr MenuCommand menu_commands[] = {
 /// Steps of which the menu speaks.
 std::size_t shown_steps = 0;
 
-/// A mark for unsaved letters, and how many of the cells are filled.
+/// Hours and minutes, as "0:07".
+std::string Hours(std::uint64_t seconds) {
+  const std::uint64_t minutes = seconds / 60;
+  return std::to_string(minutes / 60) + ':' + std::to_string(100 + minutes % 60).substr(1);
+}
+
+/// A mark for unsaved letters, the time spent if it is to be shown, and how many of the cells are
+/// filled. What changes least stands at the right, where it keeps its place.
 std::string Status() {
   constexpr StripText unsaved = {"nesnimljeno", "unsaved"};
   const LetterCounts& slova = glavni.slova;
   if (slova.cells == 0) return "";
-  std::string status = glavni.izmenjeno ? Shown(unsaved) + "   " : "";
+  std::string status;
+  if (glavni.izmenjeno) status += Shown(unsaved) + "   ";
+  if (glavni.vreme_u_traci && glavni.dnevnik) status += Hours(glavni.dnevnik->Spent()) + "   ";
   return status + std::to_string(slova.filled) + '/' + std::to_string(slova.cells);
+}
+
+toolkit::MenuRow RowOf(const MenuCommand& command, const StripText& submenu) {
+  return {.text = Shown(command.text, std::to_string(shown_steps)),
+          .keys = command.keys,
+          .enabled = command.enabled,
+          .action = command.action,
+          .checked = command.checked,
+          .submenu = Shown(submenu)};
 }
 
 }  // namespace
@@ -108,15 +247,12 @@ std::string Status() {
 void ShowStripMenu() {
   shown_steps = EarlierSteps();
   constexpr StripText caption = {"Meni", "Menu"};
-  const std::string steps = std::to_string(shown_steps);
   std::vector<toolkit::MenuRow> rows;
   for (const MenuCommand& command : menu_commands) {
-    rows.push_back({.text = Shown(command.text, steps),
-                    .keys = command.keys,
-                    .enabled = command.enabled,
-                    .action = command.action});
+    if (command.more.empty()) rows.push_back(RowOf(command, {}));
+    for (const MenuCommand& more : command.more) rows.push_back(RowOf(more, command.text));
   }
-  frm_glavni->strip.Menu(Shown(caption), std::move(rows));
+  frm_glavni->strip.Menu(Shown(caption), rows);
 }
 
 void UpdateStrip() {

@@ -81,11 +81,34 @@ constexpr StepText step_texts[] = {
     {StepKind::earlier_work,
      {"Prethodni rad je vraćen.", "The earlier work is back."},
      {"prethodni rad", "earlier work"}},
+    {StepKind::word_typed,
+     {"Slovo je upisano; `Ctrl+Z` vraća reč kakva je bila.",
+      "The letter is entered; Ctrl+Z brings the word back as it was."},
+     {"otkucana reč", "typed word"}},
 };
 
 const StepText& TextOf(StepKind kind) {
   return *std::ranges::find(step_texts, kind, &StepText::kind);
 }
+
+struct RefusalText {
+  Refusal why = Refusal::no_letter;
+  StripText text;
+};
+
+constexpr RefusalText refusal_texts[] = {
+    {Refusal::other_keyboard,
+     {"Slovo nije sa tastature ovog pisma; uzima ga „Slova svih tastatura“ u meniju (`F10`).",
+      "No letter of an English keyboard; “Letters of all keyboards” in the menu (F10) takes it."}},
+    {Refusal::capital,
+     {"Uz `YU ASCII` se slova kucaju bez tastera `Shift`; uz `Unikod` (`Ctrl+T`) je svejedno.",
+      "Letters are typed without Shift."}},
+    {Refusal::other_layout,
+     {"To je slovo samo uz kodni raspored `YU ASCII`, koji se bira u opcijama (`Ctrl+T`).", ""}},
+    {Refusal::no_letter, {"To nije slovo azbuke.", "That is no letter."}},
+    {Refusal::past_the_word,
+     {"U ovoj kućici nema slova reči.", "This box holds no letter of the word."}},
+};
 
 constexpr StripText undone = {"Poništeno: %.", "Undone: %."};
 constexpr StripText typed_letter = {"otkucano slovo", "typed letter"};
@@ -105,6 +128,11 @@ constexpr StripText typed = {"`Enter` upisuje slova u ukrštenicu.",
                              "Enter writes the letters into the puzzle."};
 constexpr StripText counted = {"Pogrešnih slova: %.", "Wrong letters: %."};
 constexpr StripText no_empty_cell = {"Nema više praznih polja.", "No cell is empty any more."};
+constexpr StripText nothing_selected = {
+    "U ovom polju je samo jedna reč; vraća je klik na njeno pitanje.",
+    "Only one word lies in this cell; a click on its clue brings it back."};
+constexpr StripText no_crossing_word = {"U ovom polju nema druge reči.",
+                                        "No other word lies in this cell."};
 constexpr StripText solved = {"Bravo! Sva slova su na svom mestu.",
                               "Well done! Every letter is in its place."};
 constexpr StripText about_program = {
@@ -155,6 +183,8 @@ std::string TextOf(const Vest& vest) {
       return Shown(typed);
     case News::untyped:
       return Shown(undone, Shown(typed_letter));
+    case News::letter_refused:
+      return Shown(std::ranges::find(refusal_texts, vest.refusal, &RefusalText::why)->text);
     case News::made:
       return glavni.slova.Solved() && vest.step != StepKind::puzzle_solved ? Shown(solved)
                                                                            : Shown(step.made);
@@ -166,6 +196,10 @@ std::string TextOf(const Vest& vest) {
       return Shown(counted, std::to_string(vest.count));
     case News::no_empty_cell:
       return Shown(no_empty_cell);
+    case News::nothing_selected:
+      return Shown(nothing_selected);
+    case News::no_crossing_word:
+      return Shown(no_crossing_word);
     case News::about:
       return Shown(about_program, KALVON_VERSION);
   }

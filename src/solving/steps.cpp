@@ -11,10 +11,10 @@ namespace kalvon {
 
 Step BeginStep(StepKind kind) { return {.kind = kind, .word = SelectedWord()}; }
 
-void EndStep(Step step) {
+void EndStep(Step step, bool goes_on) {
   if (step.changes.empty()) return;
   glavni.vest = {.news = News::made, .step = step.kind};
-  if (glavni.dnevnik) glavni.dnevnik->Made(std::move(step));
+  if (glavni.dnevnik) glavni.dnevnik->Made(std::move(step), goes_on);
   UpdateFacts();
 }
 

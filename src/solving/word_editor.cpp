@@ -11,29 +11,24 @@
 #include "display/word_highlight.h"
 #include "display/writing.h"
 #include "document/crossword_state.h"
+#include "letters/typed_character.h"
 #include "shell/forms/frm_glavni.h"
 #include "solving/steps.h"
+#include "solving/word_selection.h"
 
 namespace kalvon {
 
 namespace {
 
-/// Letters of the word that have a box.
-int EditableLetters() { return std::min(static_cast<int>(glavni.rec_tekst.size()), letter_boxes); }
-
-void Write(int place, char letter, const std::string& shown) {
-  if (place >= EditableLetters()) return;
+void Write(int place, char letter) {
+  if (place >= LettersInEditor()) return;
   char& there = glavni.rec_tekst[static_cast<std::size_t>(place)];
   if (there != letter) {
     glavni.otkucano.push_back({place, there});
     glavni.vest = {.news = News::typed};
   }
   there = letter;
-  frm_glavni->txt_rec(place).Text(shown);
-}
-
-void Write(int place, char letter) {
-  Write(place, letter, letter == '_' ? "_" : ShownLetter(letter, ChosenWriting()));
+  ShowInBox(place);
 }
 
 void Back() {
@@ -41,7 +36,7 @@ void Back() {
 }
 
 void Forward() {
-  if (glavni.rec_poz < EditableLetters() - 1) glavni.rec_poz = glavni.rec_poz + 1;
+  if (glavni.rec_poz < LettersInEditor() - 1) glavni.rec_poz = glavni.rec_poz + 1;
 }
 
 void Blank() { Write(glavni.rec_poz, '_'); }
@@ -58,11 +53,11 @@ void BlankAndForward() {
 
 void First() { glavni.rec_poz = 0; }
 
-void Last() { glavni.rec_poz = std::max(EditableLetters() - 1, 0); }
+void Last() { glavni.rec_poz = std::max(LettersInEditor() - 1, 0); }
 
-/// Enter: writes the word into the cells that it was read from, and shows the grid anew.
-void WriteBack() {
-  Step step = BeginStep(StepKind::word_entered);
+/// Writes the word into the cells that it was read from, and shows the grid anew.
+void WriteWord(StepKind kind, bool goes_on = false) {
+  Step step = BeginStep(kind);
   const std::size_t letters = std::min(glavni.rec_tekst.size(), glavni.rec_polja.size());
   for (std::size_t i = 0; i < letters; ++i) {
     const auto [x, y] = glavni.rec_polja[i];
@@ -78,22 +73,43 @@ void WriteBack() {
   }
   crtaj_ukrstenicu();
   oznaci_rec(0);
-  EndStep(std::move(step));
+  EndStep(std::move(step), goes_on);
 }
 
-/// The place of the letter box that has the focus, or else at which the keys act.
+void Enter() { WriteWord(StepKind::word_entered); }
+
+/// Writes what was just typed, where the user has chosen that. What is typed into a word before
+/// something else happens is one step.
+void WriteAsTyped() {
+  if (!glavni.upis_u_hodu || glavni.otkucano.empty()) return;
+  const int place = glavni.rec_poz;
+  WriteWord(StepKind::word_typed, glavni.rec_se_kuca);
+  glavni.rec_se_kuca = true;
+  glavni.rec_poz = std::clamp(place, 0, std::max(LettersInEditor() - 1, 0));
+}
+
+/// The letter whose box has the focus, or else at which the keys act.
 int FocusedPlace() {
-  for (int place = 0; place < EditableLetters(); ++place)
-    if (frm_glavni->txt_rec(place).HasFocus()) return place;
+  for (int box = 0; box < letter_boxes; ++box)
+    if (frm_glavni->txt_rec(box).HasFocus()) return LetterOfBox(box);
   return glavni.rec_poz;
 }
 
 /// Puts letters into the boxes that were typed before these were filled anew.
 void TypeAgain(const std::string& typed) {
-  for (int place = 0; place < EditableLetters(); ++place) {
+  for (int place = 0; place < LettersInEditor(); ++place) {
     const char letter = typed[static_cast<std::size_t>(place)];
     if (letter != glavni.rec_tekst[static_cast<std::size_t>(place)]) Write(place, letter);
   }
+}
+
+/// Says why the last character has typed nothing. Keys that edit give characters below the blank.
+void TellOfRefusal(bool past_the_word) {
+  const char32_t character = glavni.znak;
+  if (character <= U' ' || character == 0x7F) return;
+  const Refusal why = past_the_word ? Refusal::past_the_word
+                                    : WhyRefused(character, ChosenWriting(), glavni.sve_tastature);
+  glavni.vest = {.news = News::letter_refused, .refusal = why};
 }
 
 struct Key {
@@ -103,7 +119,7 @@ struct Key {
 
 constexpr Key keys[] = {
     {0x08, BlankAndBack},     // Backspace
-    {0x0D, WriteBack},        // Enter
+    {0x0D, Enter},            // Enter
     {0x20, BlankAndForward},  // Space
     {0x23, Last},             // End
     {0x24, First},            // Home
@@ -116,19 +132,30 @@ constexpr Key keys[] = {
 
 }  // namespace
 
+void primi_znak(char32_t& character, bool shift) {
+  glavni.znak = character;
+  if (glavni.sve_tastature) character = SameLetter(character, ChosenWriting());
+  character = WithoutCapsLock(character, shift);
+}
+
 void unos_znaka(int index, int key_code) {
-  if (index >= EditableLetters()) return;
-  const TypedLetter typed = LetterOfKey(key_code, ChosenWriting());
-  if (typed.stored == 0) return;
-  Write(index, typed.stored, typed.shown);
-  glavni.rec_poz = index;
+  const int place = LetterOfBox(index);
+  const char letter = LetterOfKey(key_code, ChosenWriting());
+  if (letter == 0 || place >= LettersInEditor()) {
+    TellOfRefusal(letter != 0);
+    return;
+  }
+  if (glavni.vest.news == News::letter_refused) glavni.vest = {};
+  Write(place, letter);
+  glavni.rec_poz = place;
   Forward();
-  frm_glavni->txt_rec(glavni.rec_poz).SetFocus();
+  WriteAsTyped();
+  FocusLetter();
 }
 
 void resi_slovo() {
   const int place = FocusedPlace();
-  if (place >= EditableLetters()) return;
+  if (place >= LettersInEditor()) return;
   const GridCell cell = glavni.rec_polja.at(static_cast<std::size_t>(place));
   const std::string& text = glavni.ukr_polja(cell.x, cell.y, 1);
   std::string typed = glavni.rec_tekst;
@@ -142,6 +169,17 @@ void resi_slovo() {
   Forward();
   FocusLetters();
   EndStep(std::move(step));
+}
+
+void stani_na(int place) {
+  const std::string typed = glavni.rec_tekst;
+  const auto [x, y] = glavni.rec_polja.at(static_cast<std::size_t>(place));
+  if (BringIntoView(x, y)) {
+    oznaci_rec(0);
+    TypeAgain(typed);
+  }
+  glavni.rec_poz = place;
+  FocusLetters();
 }
 
 bool TakeBackTyped() {
@@ -159,7 +197,8 @@ void unos_tastera(int /*index*/, int key_code) {
   for (const Key& key : keys) {
     if (key.code == key_code) key.action();
   }
-  frm_glavni->txt_rec(glavni.rec_poz).SetFocus();
+  WriteAsTyped();
+  FocusLetter();
 }
 
 }  // namespace kalvon

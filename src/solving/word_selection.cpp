@@ -7,6 +7,7 @@
 
 #include "crossword/cell.h"
 #include "crossword/direction.h"
+#include "crossword/words.h"
 #include "display/grid_geometry.h"
 #include "display/grid_view.h"
 #include "display/selected_word.h"
@@ -23,6 +24,19 @@ namespace {
 int ViewCell(double position, int grid_cells) {
   const double cell = std::floor(position / cell_pitch) + 1;
   return std::min(static_cast<int>(std::clamp(cell, 1.0, double{view_cells})), grid_cells);
+}
+
+/// The cell of the grid at a pixel position of its picture.
+GridCell CellAt(double x, double y) {
+  return {glavni.pogled_x + ViewCell(x, glavni.ukr_sirina) - 1,
+          glavni.pogled_y + ViewCell(y, glavni.ukr_visina) - 1};
+}
+
+/// The direction of the only word that lies in a cell; 0 if it has none or two.
+int OnlyDirection(GridCell cell) {
+  const bool across = LiesInWord(glavni, cell, direction::across);
+  if (across == LiesInWord(glavni, cell, direction::down)) return 0;
+  return across ? direction::across : direction::down;
 }
 
 /// A clue without a word was clicked: its click has taken the mark off the word on record and has
@@ -50,16 +64,13 @@ void TakeOldMarkOff() {
 }  // namespace
 
 void klik_polje(double x, double y) {
-  const int view_x = ViewCell(x, glavni.ukr_sirina);
-  const int view_y = ViewCell(y, glavni.ukr_visina);
-  const int grid_x = glavni.pogled_x + view_x - 1;
-  const int grid_y = glavni.pogled_y + view_y - 1;
-  if (!IsLetterCell(glavni.ukr_polja(grid_x, grid_y, 1))) {
+  const GridCell cell = CellAt(x, y);
+  if (!IsLetterCell(glavni.ukr_polja(cell.x, cell.y, 1))) {
     if (glavni.iz_liste == 1) StayWithWord();
     return;
   }
-  glavni.klik_x = view_x;
-  glavni.klik_y = view_y;
+  glavni.klik_x = cell.x - glavni.pogled_x + 1;
+  glavni.klik_y = cell.y - glavni.pogled_y + 1;
 
   nadji_rec();
   if (glavni.iz_liste == 0) TakeOldMarkOff();
@@ -72,6 +83,14 @@ void klik_polje(double x, double y) {
   glavni.pret_x2 = glavni.rec_x2;
   glavni.pret_y2 = glavni.rec_y2;
   glavni.prelaz_smer = glavni.smer;
+}
+
+void klik_misem(double x, double y) {
+  const GridCell cell = CellAt(x, y);
+  const int only = OnlyDirection(cell);
+  if (glavni.bira_jedinu && only != 0) return SelectThrough(cell, only);
+  klik_polje(x, y);
+  if (only != 0 && SelectedCells().empty()) glavni.vest = {.news = News::nothing_selected};
 }
 
 bool BringIntoView(int x, int y) {
@@ -101,13 +120,17 @@ void SelectWord(const WordPlace& word) {
   const auto [x, y] = word.first;
   if (!IsLetterCell(glavni.ukr_polja(x, y, 1))) return;
   if (BringIntoView(x, y)) oznaci_rec(0);
-  if (SelectedWord() == word) return;
+  if (SelectedWord() != word) SelectThrough(word.first, word.direction);
+}
+
+void SelectThrough(GridCell cell, int direction) {
+  if (BringIntoView(cell.x, cell.y)) oznaci_rec(0);
   // As after a click on a clue, the direction stays through both searches of the click.
   glavni.prelaz_smer = glavni.smer;
   if (glavni.pret_x2 > 0 && glavni.pret_y2 > 0) glavni.prelaz_oba = 1;
-  glavni.smer = word.direction;
+  glavni.smer = direction;
   glavni.prelaz = 1;
-  ClickCell(x, y);
+  ClickCell(cell.x, cell.y);
   glavni.prelaz = 0;
 }
 

@@ -34,7 +34,7 @@ class JournalTest : public CrosswordFolder {
     journal->End();
     journal.reset();
   }
-  void Make(const std::vector<std::pair<GridCell, std::string>>& letters) {
+  void Make(const std::vector<std::pair<GridCell, std::string>>& letters, bool goes_on = false) {
     Step step{.kind = StepKind::word_solved, .word = {{3, 1}, 2}};
     for (const auto& [cell, letter] : letters) {
       const std::string plain = WithoutUserLetter(crossword.ukr_polja(cell.x, cell.y, 1));
@@ -42,7 +42,7 @@ class JournalTest : public CrosswordFolder {
         ChangeCell(crossword, step, cell,
                    letter.empty() ? plain : WithUserLetter(plain, letter[0]));
     }
-    journal->Made(step);
+    journal->Made(step, goes_on);
   }
   void Make(int x, int y, const std::string& letter) { Make({{{x, y}, letter}}); }
   /// Another program saves a letter.
@@ -80,7 +80,9 @@ class JournalTest : public CrosswordFolder {
 /// What a journal promises, on whole pictures of the grid.
 struct Model {
   explicit Model(const std::string& grid) : files(grid), grids({grid}) {}
-  void Step(const std::string& grid) {
+  void Step(const std::string& grid, bool goes_on = false) {
+    if (goes_on && open) return More(grid);
+    open = true;
     const std::size_t steps = Waiting();
     const std::string before = grids[to - steps];
     for (std::size_t i = 0; steps > 0 && i < before.size(); ++i)
@@ -92,7 +94,15 @@ struct Model {
     grids.push_back(grid);
     if (laid == no_position && Laid() == grid) laid = at;
   }
+  void More(const std::string& grid) {
+    if (laid == at) laid = no_position;
+    grids[at] = grid;
+    open = grid != grids[at - 1];
+    if (!open) grids.resize(at--);
+    if (laid == no_position && Laid() == grid) laid = at;
+  }
   void Save(const std::string& saved) {
+    open = false;
     files = saved;
     if (files != grids[at]) return;
     from = std::max(from, at);
@@ -105,6 +115,7 @@ struct Model {
       if (found[i] != files[i]) wanted[i] = found[i];
     files = found;
     const std::string& shown = killed ? wanted : files;
+    open = false;
     std::size_t position = at;
     while (position > 0 && grids[position] != shown) --position;
     while (position < grids.size() && grids[position] != shown) ++position;
@@ -115,6 +126,7 @@ struct Model {
     }
     const std::string now = grids[at];
     Step(now);
+    open = false;
     grids = {files};
     laid = no_position;
     if (wanted != files) grids.push_back(wanted);
@@ -134,6 +146,7 @@ struct Model {
   std::size_t from = no_position, to = 0, laid = no_position;
   std::map<std::size_t, char> earlier;
   std::size_t earlier_steps = 0;
+  bool open = false;  ///< More may join the last step.
 };
 
 TEST_F(JournalTest, AgreesWithAPlainModelThroughKillsAndEnds) {
@@ -153,18 +166,22 @@ TEST_F(JournalTest, AgreesWithAPlainModelThroughKillsAndEnds) {
   };
   int compacted = 0;
   for (int action = 0; action < 1200 && !HasFatalFailure(); ++action) {
-    switch ("sssuuurrrlwo"[any(12)]) {
+    switch ("sssmmuuurrrlwo"[any(14)]) {
       case 's':
         Make({{{1 + any(3), 1 + any(2)}, any(3) == 0 ? "" : "A"}, {{1 + any(3), 3}, "B"}});
         if (Shown(crossword) != model.grids[model.at]) model.Step(Shown(crossword));
         break;
+      case 'm':
+        Make({{{1 + any(3), 1 + any(3)}, any(2) == 0 ? "" : "A"}}, true);
+        if (Shown(crossword) != model.grids[model.at]) model.Step(Shown(crossword), true);
+        break;
       case 'u':
         ASSERT_EQ(journal->Undo(crossword) != nullptr, model.at > 0);
-        if (model.at > 0) --model.at;
+        if (model.at > 0) --model.at, model.open = false;
         break;
       case 'r':
         ASSERT_EQ(journal->Redo(crossword) != nullptr, model.at + 1 < model.grids.size());
-        if (model.at + 1 < model.grids.size()) ++model.at;
+        if (model.at + 1 < model.grids.size()) ++model.at, model.open = false;
         break;
       case 'l':
         if (const Step earlier = journal->EarlierWork(); !earlier.changes.empty()) {
@@ -393,6 +410,16 @@ TEST(StateFolder, IsTheUsersOwn) {
   }
   qputenv("XDG_STATE_HOME", old_state);
   qputenv("HOME", old_home);
+}
+
+TEST_F(JournalTest, AStepThatDoesNotFitStaysAsItIs) {
+  Open();
+  Make(1, 1, "M");
+  for (const GridCell cell : {GridCell{0, 1}, {1, 0}, {4, 1}, {1, 5}})
+    EXPECT_FALSE(Fits(crossword, {.changes = {{cell, "", "A"}}})) << cell.x << ' ' << cell.y;
+  Enter(crossword, 1, 1, 'X');
+  EXPECT_EQ(journal->Undo(crossword), nullptr);
+  EXPECT_EQ(Shown(crossword)[0], 'X');
 }
 
 }  // namespace kalvon::testing

@@ -5,6 +5,11 @@
 
 #include <map>
 #include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+#include "letters/typed_character.h"
 
 namespace kalvon::testing {
 
@@ -42,19 +47,17 @@ TEST(LetterConversion, TypesEachLetterInEveryScriptAndLayout) {
     SCOPED_TRACE(code);
     const char key = static_cast<char>(code);
     const auto expect = [&](const Writing& writing, std::string_view one, std::string_view other) {
-      const TypedLetter typed = LetterOfKey(code, writing);
-      EXPECT_EQ(typed.stored, StoredOf(key, one, other));
-      EXPECT_EQ(typed.shown, typed.stored == 0 ? "" : ShownLetter(typed.stored, writing));
+      EXPECT_EQ(LetterOfKey(code, writing), StoredOf(key, one, other));
     };
     expect(latin_ascii, keys, more_keys);
     expect(cyrillic_ascii, keys, more_keys);
     expect(latin_page, latin_capital, latin_small);
     expect(cyrillic_page, cyrillic_capital, cyrillic_small);
     const bool is_letter = key >= 'a' && key <= 'z';
-    EXPECT_EQ(LetterOfKey(code, {.english = true, .code_page = true}).stored, 0);
-    EXPECT_EQ(LetterOfKey(code, english).stored, is_letter ? key - 'a' + 'A' : 0);
+    EXPECT_EQ(LetterOfKey(code, {.english = true, .code_page = true}), 0);
+    EXPECT_EQ(LetterOfKey(code, english), is_letter ? key - 'a' + 'A' : 0);
   }
-  EXPECT_EQ(LetterOfKey(256 + 'a', latin_ascii).stored, 0);
+  EXPECT_EQ(LetterOfKey(256 + 'a', latin_ascii), 0);
 }
 
 TEST(LetterConversion, ShowsEachLetterInEveryScriptAndLayout) {
@@ -80,6 +83,50 @@ TEST(LetterConversion, ShowsTexts) {
   EXPECT_EQ(ShownClue("quay x{", english), "QUAY X{");
   EXPECT_EQ(ShownText("Najve}i Qudi, wive i xep", latin_page), "Najve}i Ljudi, njive i d`ep");
   EXPECT_EQ(azbuka(false), stored);
+}
+
+TEST(TypedCharacter, IsTheSameLetterOfTheChosenScript) {
+  const std::tuple<const Writing&, std::u32string_view, std::u32string_view> rows[] = {
+      {latin_page, U"жЖчЉњџѕǈǉǌж", U"žŽčQwxyQqwž"},  {latin_ascii, U"ђабqч[y", U"đabqč[y"},
+      {cyrillic_page, U"žČqWxaǆǇ[1", U"жЧљЊџаџЉ[1"}, {cyrillic_ascii, U"žČqWǆ~", U"жЧqWџ~"},
+      {english, U"абЉжЅžčшǉ", U"abQyYyčшq"},
+  };
+  for (const auto& [writing, typed, same] : rows) {
+    std::u32string all;
+    for (const char32_t character : typed) all += SameLetter(character, writing);
+    EXPECT_TRUE(all == same) << int(typed.front());
+  }
+}
+
+TEST(TypedCharacter, IsWhatTheKeyGivesWithoutCapsLock) {
+  for (const auto& [off, on] : {std::pair(U'a', U'A'), {U'š', U'Š'}, {U'y', U'Y'}, {U'ж', U'Ж'}}) {
+    EXPECT_EQ(WithoutCapsLock(off, false), off);
+    EXPECT_EQ(WithoutCapsLock(on, false), off);
+    EXPECT_EQ(WithoutCapsLock(on, true), on);
+    EXPECT_EQ(WithoutCapsLock(off, true), on);
+  }
+  EXPECT_EQ(WithoutCapsLock(U'{', true), U'{');
+}
+
+TEST(TypedCharacter, ThatIsRefusedHasAReason) {
+  const std::tuple<char32_t, const Writing&, bool, Refusal> rows[] = {
+      {U'ж', latin_page, false, Refusal::other_keyboard},
+      {U'č', cyrillic_ascii, false, Refusal::other_keyboard},
+      {U'ǉ', cyrillic_page, false, Refusal::other_keyboard},
+      {U'б', english, false, Refusal::other_keyboard},
+      {U'A', latin_ascii, false, Refusal::capital},
+      {U'Ж', latin_ascii, true, Refusal::capital},
+      {U'A', english, false, Refusal::capital},
+      {U'[', latin_page, true, Refusal::other_layout},
+      {U'`', cyrillic_page, false, Refusal::other_layout},
+      {U'[', english, false, Refusal::no_letter},
+      {U'š', english, true, Refusal::no_letter},
+      {U'y', latin_page, false, Refusal::no_letter},
+      {U'Ѕ', latin_page, false, Refusal::no_letter},
+      {U'1', cyrillic_ascii, true, Refusal::no_letter},
+  };
+  for (const auto& [character, writing, all, why] : rows)
+    EXPECT_EQ(WhyRefused(character, writing, all), why) << int(character);
 }
 
 }  // namespace kalvon::testing

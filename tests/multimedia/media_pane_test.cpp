@@ -117,6 +117,10 @@ TEST_F(MediaPaneTest, ARightClickOnAClueShowsItsMediumAndAnyClickClosesWhatIsNoV
     ExpectOpen(false, file);
     ClickPicture(picture, 50, 7, 2);
     ExpectOpen(true, file);
+    PressKey(Qt::Key_Escape);
+    ExpectOpen(false, file);
+    PressKey(Qt::Key_Return, Qt::AltModifier);
+    ExpectOpen(true, file);
     EXPECT_EQ(frm_glavni->txt_media(0).Text(), glavni.lista(1, 1, list + 1));
     EXPECT_TRUE(Widget(shown)->isVisible());
     EXPECT_EQ(Plays(), shown == std::string("mm_media"));

@@ -2,6 +2,9 @@
 #include "shell/strip.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <chrono>
 
 #include "shell/strip_texts.h"
 #include "solving/undo.h"
@@ -82,6 +85,58 @@ TEST_F(StripNews, UnsavedLettersComeBackAfterAKillAndWaitAfterAnEnd) {
   vrati_raniji_rad();
   EXPECT_EQ(NewsText(), "Prethodni rad je vraćen.");
   EXPECT_EQ(frm_glavni->txt_rec(2).Text(), "R");
+}
+
+class TimeInTheStrip : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    WriteFile("mir.qvm", Qvm({"MIR", "A#A", "KIT"}));
+    Load("mir.qvm");
+  }
+  void ShowTime() {
+    for (QAction* row : Widget("strip")->findChildren<QAction*>())
+      if (row->text() == QStringLiteral("Prikaži vreme")) row->trigger();
+  }
+  [[nodiscard]] std::string Status() const {
+    return Widget<QLabel>("strip_status")->text().toStdString();
+  }
+  void Activate(const std::string& form) { QApplication::setActiveWindow(Widget(form)); }
+  /// What is measured has begun so much earlier.
+  static void Pass(std::chrono::minutes time) {
+    if (glavni.vreme_od) *glavni.vreme_od -= time;
+  }
+};
+
+TEST_F(TimeInTheStrip, CountsWhileTheWindowIsActiveAndIsKeptWithTheCrossword) {
+  Pass(std::chrono::minutes(61));
+  Activate("frm_opcije");
+  Pass(std::chrono::minutes(5));
+  Activate("frm_glavni");
+  EXPECT_EQ(Status(), "0/8");
+  ShowTime();
+  EXPECT_EQ(Status(), "1:01   0/8");
+  Load("mir.qvm");
+  Pass(std::chrono::minutes(3));
+  Restart();
+  Load("mir.qvm");
+  EXPECT_EQ(Status(), "1:01   0/8") << "after a kill";
+  Pass(std::chrono::minutes(3));
+  ClickButton("cmd_glavni(2)");
+  Restart();
+  Load("mir.qvm");
+  EXPECT_EQ(Status(), "1:04   0/8") << "after an end";
+}
+
+TEST_F(TimeInTheStrip, GoesOnAtAWholeMinuteByItself) {
+  ShowTime();
+  Type("m");
+  const std::string news = NewsText();
+  Activate("frm_opcije");
+  glavni.vreme_ostatak = std::chrono::milliseconds(59'950);
+  Activate("frm_glavni");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "0:01   0/8"; }));
+  EXPECT_EQ(NewsText(), news);
 }
 
 }  // namespace kalvon::testing

@@ -1,4 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "solving/word_editor.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QInputMethodEvent>
+
+#include "document/settings.h"
+#include "shell/strip_texts.h"
+#include "solving/undo.h"
 #include "support/puzzle_test.h"
 
 namespace kalvon::testing {
@@ -66,13 +75,85 @@ TEST_F(WordEditor, EntersTheWordIntoItsCells) {
   }
 }
 
-TEST_F(WordEditor, EditsOnlyTheBoxesOfALongWord) {
-  Solve({.rows = {std::string(18, 'A')}, .letters = {"BBBBBBBBBBBBBBBBBC"}});
-  Keys("End k Right Right Space End Backspace End m");
-  EXPECT_EQ(glavni.rec_tekst, "BBBBBBBBBBBBBBMBBC");
-  ExpectScreenOfState(true);
-  Keys("Return");
-  EXPECT_EQ(Letters()[0], "BBBBBBBBBBBBBBMBBC");
+TEST_F(WordEditor, WritesLettersAsTheyAreTypedIfThatIsChosenAsOneStepForEachWord) {
+  glavni.upis_u_hodu = true;
+  snimi_izbor();
+  Solve(Qvm({"MIR", "A#A", "KIT"}));
+  const auto letters = [] { return Letters()[0] + '|' + Letters()[2]; };
+  for (const auto& [keys, expected] : {std::pair{"a b", "AB |   "},
+                                       {"Left Delete", "A  |   "},
+                                       {"Backspace b", "B  |   "},
+                                       {"Alt+Down v", "B  |V  "},
+                                       {"Left Space", "B  |   "},
+                                       {"Ctrl+S v v Ctrl+S z", "B  | VZ"},
+                                       {"Return a", "B  |AVZ"}}) {
+    Keys(keys);
+    EXPECT_EQ(letters(), expected) << keys;
+    ExpectScreenOfState();
+  }
+  Restart();
+  Load("p.qvm");
+  EXPECT_EQ(letters(), "B  |AVZ") << "after a kill";
+  for (const char* expected : {"B  | VZ", "B  | VV", "B  |   ", "   |   "}) {
+    Keys("Ctrl+Z");
+    EXPECT_EQ(letters(), expected);
+  }
+  EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(WordEditor, SlidesTheBoxesOverALongWord) {
+  Solve({.rows = {std::string(18, 'A'), "A" + std::string(17, '#')},
+         .letters = {"BBBBBBBBBBBBBBBBBC"}});
+  const std::tuple<const char*, const char*, int, int> steps[] = {
+      {"Box14 k", "BBBBBBBBBBBBBBKBBC", 1, 15},
+      {"l", "BBBBBBBBBBBBBBKLBC", 2, 16},
+      {"Box0 m", "BBMBBBBBBBBBBBKLBC", 2, 3},
+      {"End Backspace Left Space", "BBMBBBBBBBBBBBK_B_", 3, 16},
+      {"Left Left n Home", "BBMBBBBBBBBBBBN_B_", 0, 0}};
+  for (const auto& [keys, text, first, place] : steps) {
+    Keys(keys);
+    EXPECT_EQ(std::tuple(glavni.rec_tekst, glavni.rec_prvo, int(glavni.rec_poz)),
+              std::tuple(text, first, place));
+    EXPECT_EQ(FocusedControl(), "txt_rec(" + std::to_string(place - first) + ")");
+    ExpectScreenOfState(true);
+  }
+  EXPECT_TRUE(TakeBackTyped());
+  EXPECT_EQ(glavni.rec_poz, 14);
+  Keys("End Return");
+  EXPECT_EQ(Letters()[0], "BBMBBBBBBBBBBBK B ");
+  ClickCell(1, 1);
+  ExpectScreenOfState();
+}
+
+TEST_F(WordEditor, TakesLettersOfAllKeyboardsIfThatIsChosenAndElseNamesTheChoice) {
+  Choose(script::latin, layout::code_page);
+  const auto choose_all = [this] {
+    for (QAction* row : Widget("strip")->findChildren<QAction*>())
+      if (row->text() == QStringLiteral("Slova svih tastatura")) row->trigger();
+  };
+  Solve({.rows = puzzle_rows});
+  const std::string refused =
+      "Slovo nije sa tastature ovog pisma; uzima ga „Slova svih tastatura“ u meniju (F10).";
+  Keys("ж");
+  EXPECT_EQ(std::pair(glavni.rec_tekst, NewsText()), std::pair(std::string("___"), refused));
+  Keys("Delete Box3 a");
+  EXPECT_EQ(NewsText(), "U ovoj kućici nema slova reči.");
+  choose_all();
+  Restart();
+  Choose(script::latin, layout::code_page);
+  Solve({.rows = puzzle_rows});
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("жЊǆ"));
+  QApplication::sendEvent(QApplication::focusWidget(), &composed);
+  EXPECT_EQ(glavni.rec_tekst, "@WX") << "each letter goes into its box";
+  Keys("[");
+  EXPECT_TRUE(NewsText().starts_with("To je slovo samo uz kodni raspored YU ASCII"));
+  Choose(script::latin, layout::yu_ascii);
+  Keys("Home");
+  QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_A, "A", Qt::NoModifier);
+  EXPECT_EQ(glavni.rec_tekst.front(), 'A') << "Caps Lock";
+  Keys("A");
+  EXPECT_TRUE(NewsText().starts_with("Uz YU ASCII se slova kucaju bez tastera Shift"));
 }
 
 }  // namespace kalvon::testing

@@ -68,6 +68,26 @@ TEST_F(WordSelection, SelectsByClicks) {
   }
 }
 
+TEST_F(WordSelection, AClickOnACellWithOneWordSelectsItIfThatIsChosen) {
+  const Clicks only_words[] = {{"", "2,1", {1, 1, 1, 3, 1}},
+                               {"", "2,1 1,1 2,1", {1, 1, 1, 3, 1}},
+                               {"", "5,1 4,2 1,2 2,4", {1, 1, 4, 3, 4}},
+                               {"", "D2 A2 5,4 5,2", {1, 3, 2, 5, 2}},
+                               {"two words turn as ever", "1,1 5,1 3,2", {2, 3, 1, 3, 2}}};
+  for (const Clicks& sequence : only_words) {
+    SCOPED_TRACE(sequence.targets);
+    Solve({.rows = puzzle_rows});
+    glavni.bira_jedinu = true;
+    Click(sequence.targets);
+    EXPECT_EQ(Selection(), sequence.word);
+    EXPECT_EQ(glavni.vest.news, News::none);
+    ExpectScreenOfState();
+    glavni.bira_jedinu = false;
+  }
+  Click("2,1");
+  EXPECT_EQ(glavni.vest.news, News::nothing_selected);
+}
+
 TEST_F(WordSelection, CountsCellsByPixelsUpToTheEdgeOfTheGrid) {
   const std::vector<std::string> large(16, std::string(16, 'A'));
   for (const auto& [rows, x, y, cell_x, cell_y] : {std::tuple{large, 0, 1, 1, 1},

@@ -27,6 +27,7 @@ void ProgramTest::Start() {
   language_under_test = language_;
   glavni = CrosswordState{};
   qputenv("XDG_STATE_HOME", state_.Host().c_str());
+  qputenv("XDG_CONFIG_HOME", state_.Host("config").c_str());
   toolkit::App::Path(scratch_.Logic());
   toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();
@@ -89,13 +90,14 @@ void ProgramTest::Type(const std::string& letters) {
     QWidget* focused = QApplication::focusWidget();
     ASSERT_NE(focused, nullptr);
     const auto key = static_cast<Qt::Key>(letter.toUpper().unicode());
-    QTest::sendKeyEvent(QTest::Click, focused, key, QString(letter), Qt::NoModifier);
+    const auto shift = letter.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::sendKeyEvent(QTest::Click, focused, key, QString(letter), shift);
   }
 }
 
-void ProgramTest::PressKey(Qt::Key key) {
+void ProgramTest::PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   ASSERT_NE(QApplication::focusWidget(), nullptr);
-  QTest::keyClick(QApplication::focusWidget(), key);
+  QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
 unsigned ProgramTest::PixelOf(const std::string& control, int x, int y) const {

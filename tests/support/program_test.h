@@ -52,7 +52,7 @@ class ProgramTest : public ::testing::Test {
   void ClickButton(const std::string& control);
   /// Types UTF-8 text into the widget that has the focus, a key for each letter.
   void Type(const std::string& letters);
-  void PressKey(Qt::Key key);
+  void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 
   /// 0xRRGGBB of a pixel of a picture.
   [[nodiscard]] unsigned PixelOf(const std::string& control, int x, int y) const;
@@ -62,13 +62,14 @@ class ProgramTest : public ::testing::Test {
     return dynamic_cast<Kind*>(Find(control));
   }
 
- private:
-  [[nodiscard]] static QWidget* Find(const std::string& control);
   void Start();
   static void Stop();
 
+ private:
+  [[nodiscard]] static QWidget* Find(const std::string& control);
+
   ScratchFolder scratch_;
-  ScratchFolder state_;  ///< What the user's state folder holds.
+  ScratchFolder state_;  ///< What the user's state and configuration folders hold.
   BrowserScript browser_;
   int language_;
 };

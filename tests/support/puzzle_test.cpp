@@ -52,11 +52,11 @@ void PuzzleTest::Keys(const std::string& script) {
   std::istringstream words(script);
   for (std::string word; words >> word;) {
     const QString name = QString::fromStdString(word);
-    const Qt::Key key = name.size() > 1 ? QKeySequence(name)[0].key() : Qt::Key_unknown;
+    const QKeyCombination keys = name.size() > 1 ? QKeySequence(name)[0] : Qt::Key_unknown;
     if (word.starts_with("Box"))
       QTest::mouseClick(Widget("txt_rec(" + word.substr(3) + ")"), Qt::LeftButton);
-    else if (key != Qt::Key_unknown)
-      PressKey(key);
+    else if (keys.key() != Qt::Key_unknown)
+      PressKey(keys.key(), keys.keyboardModifiers());
     else
       Type(word);
   }
@@ -118,13 +118,20 @@ void PuzzleTest::ExpectScreenOfState(bool typed) const {
 
 void PuzzleTest::ExpectEditor(bool typed) {
   const std::string& text = glavni.rec_tekst;
-  const int boxes = std::min(static_cast<int>(text.size()), letter_boxes);
-  EXPECT_TRUE(glavni.rec_poz == 0 || (glavni.rec_poz > 0 && glavni.rec_poz < boxes));
+  const int size = static_cast<int>(text.size());
+  const int first = glavni.rec_prvo;
+  EXPECT_TRUE(first >= 0 && (first == 0 || first + letter_boxes <= size));
+  EXPECT_TRUE(glavni.rec_poz >= first && glavni.rec_poz < first + letter_boxes);
+  EXPECT_TRUE(glavni.rec_poz == 0 || glavni.rec_poz < size);
   for (int i = 0; i < letter_boxes; ++i) {
-    const char letter = i < boxes ? text[static_cast<std::size_t>(i)] : '_';
+    const bool in_word = first + i < size;
+    const char letter = in_word ? text[static_cast<std::size_t>(first + i)] : '_';
     const std::string shown = letter == '_' ? "_" : ShownLetter(letter, ChosenWriting());
-    EXPECT_EQ(frm_glavni->txt_rec(i).Text(), i < boxes ? shown : "") << i;
-    EXPECT_EQ(frm_glavni->lbl_rec(i).Visible(), i < boxes) << i;
+    EXPECT_EQ(frm_glavni->txt_rec(i).Text(), in_word ? shown : "") << i;
+    EXPECT_EQ(frm_glavni->lbl_rec(i).Visible(), in_word) << i;
+    if (!in_word) continue;
+    const int number = size > letter_boxes ? first + i + 1 : (i + 1) % 10;
+    EXPECT_EQ(frm_glavni->lbl_rec(i).Caption(), std::to_string(number));
   }
   if (typed) return;
   std::string word;

@@ -30,8 +30,8 @@ class PuzzleTest : public ProgramTest {
 
   /// Chooses script (0 Cyrillic, 1 Latin) and keyboard layout (0 YU ASCII, 1 Unicode).
   void Choose(int script, int layout);
-  /// Types a script such as "m Left Box2": letters as they are, other keys by name; a click on the
-  /// third letter box.
+  /// Types a script such as "m Ctrl+Left Box2": letters as they are, other keys by name; a click on
+  /// the third letter box.
   void Keys(const std::string& script);
   /// Clicks a row of a list, both from 1.
   void ClickClue(int list, int row, int button = 1);

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "display/selected_word.h"
+#include "document/settings.h"
 #include "letters/letter_conversion.h"
 #include "solving/next_clue.h"
 #include "solving/undo.h"
@@ -33,6 +34,8 @@ const Action actions[] = {
     {main_form, 8, begins, "a q X { ~ [ š Đ љ Ж а @ . % 1 w t ' ( e"},
     {main_form, 3, begins, "Left Right Home End Space Delete Backspace Up Down"},
     {main_form, 3, ends, "Return"},
+    {main_form, 4, keeps, "Ctrl+Left Ctrl+Right Ctrl+Up Ctrl+Down Ctrl+Return"},
+    {main_form, 4, keeps, "Alt+Down Alt+Up Alt+Left PgDown PgUp Alt+Return Esc"},
     {main_form, 3, keeps, "cmd_glavni(0) cmd_glavni(1)"},
     {main_form, 2, keeps, "cmd_glavni(5) cmd_glavni(6)"},
     {main_form, 2, ends, "cmd_glavni(3) cmd_glavni(4)"},
@@ -49,7 +52,8 @@ const Action actions[] = {
     {options, 2, ends, "cmd_opcije(0)"},
 };
 
-/// A user who does anything, in an order that a seed decides; every third in the English program.
+/// A user who does anything, in an order that a seed decides; every third in the English program,
+/// every second with the choices of the menu.
 class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsigned> {
  protected:
   RandomWalk() : PuzzleTest(GetParam() % 3 == 0 ? 1 : 0), random_(GetParam()) {}
@@ -59,6 +63,8 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
       if (sample.file_size() < 100'000) CopySample(sample.path().filename().string());
     WriteFile("losa.qvm", "\r\nNaziv: Ima samo dva reda\r\n");
     PuzzleTest::SetUp();
+    glavni.upis_u_hodu = glavni.bira_jedinu = GetParam() % 2 == 0;
+    snimi_izbor();
     ClickButton("cmd_glavni(0)");
   }
 
@@ -78,7 +84,8 @@ class RandomWalk : public PuzzleTest, public ::testing::WithParamInterface<unsig
     const std::string before = glavni.rec_tekst;
     Do(choice);
     // What was typed lasts until something fills the editor anew.
-    if (action.typing != keeps || glavni.rec_tekst != before) typed_ = action.typing == begins;
+    if (action.typing != keeps || glavni.rec_tekst != before)
+      typed_ = action.typing == begins && !glavni.upis_u_hodu;
     ExpectCellsKept();
     EXPECT_EQ(glavni.media_temp.empty(), !frm_glavni->pic_media(4).Visible());
     if (!frm_opcije->Visible()) ExpectScreenOfState(typed_);

@@ -1,6 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Draws the program's pictures: draw.py FOLDER writes the six files there.
+"""Draws the program's pictures: draw.py FOLDER writes them there.
+
+Each is drawn twice: in the pixels of the design, and for dense screens in three
+by three pixels for each of them, as NAME@3x.png.
 
 Needs python3-pil, python3-numpy and fonts-urw-base35.
 
@@ -21,7 +24,7 @@ FONTS = "/usr/share/fonts/opentype/urw-base35/"
 
 # ------------------------------------------------------------ the engraving
 
-SAMPLES = 4                       # rays a pixel, along each side
+DENSE = 3                         # pixels to one of the design, along each side
 CROSSWORD = ("##.С..#.. .Н#Л#.М.. #ОЛОВКА#. "
              ".С.В##ПАС .##ОАЗА#. ...#В.#.. "
              "..#.И...# ......#.. #..#.....").split()
@@ -142,14 +145,14 @@ def spread(mask, reach):
     return np.asarray(picture.filter(ImageFilter.MaxFilter(2 * reach + 1))) > 0
 
 
-def contours(kinds, depth, normal):
+def contours(kinds, depth, normal, reach):
     """Lines where one thing ends and another begins, or a surface folds."""
     edge = np.zeros(kinds.shape, bool)
     for e, k, d, n in ((edge, kinds, depth, normal),
                        (edge.T, kinds.T, depth.T, normal.transpose(1, 0, 2))):
         e[1:] |= (k[1:] != k[:-1]) | (np.abs(d[1:] - d[:-1]) > 0.25)
         e[1:] |= np.sum(n[1:] * n[:-1], axis=2) < 0.72
-    return spread(edge, 1)
+    return spread(edge, reach)
 
 
 def trace(sx, sy, width, height):
@@ -172,10 +175,12 @@ def trace(sx, sy, width, height):
     return t, hit, p, normal, shaded, away
 
 
-def engraving(width, height):
+def engraving(width, height, density):
     """The scene as black lines on white; an array of light from 0 to 1."""
-    shape = (height * SAMPLES, width * SAMPLES)
-    sy, sx = ((np.indices(shape) + 0.5) / SAMPLES).reshape(2, -1)
+    samples = 4 if density == 1 else 2     # rays a pixel, along each side
+    fine = samples * density               # and a pixel of the design
+    shape = (height * fine, width * fine)
+    sy, sx = ((np.indices(shape) + 0.5) / fine).reshape(2, -1)
     t, hit, p, normal, shaded, away = trace(sx, sy, width, height)
     is_pencil = hit & (pencil(p) < cup(p))
     is_cup = hit & ~is_pencil
@@ -238,12 +243,14 @@ def engraving(width, height):
         kinds[where] = kind
 
     # Contours, and the table's level lines, which keep clear of the things.
-    lines = contours(kinds.reshape(shape), t.reshape(shape), normal.reshape(shape + (3,)))
+    lines = contours(kinds.reshape(shape), t.reshape(shape), normal.reshape(shape + (3,)),
+                     max(1, fine // 5))
     lines |= ink.reshape(shape)
-    light = 1 - lines.reshape(height, SAMPLES, width, SAMPLES).mean(axis=(1, 3))
+    light = 1 - lines.reshape(height * density, samples, width * density, samples).mean(axis=(1, 3))
     taken = (kinds > 0) | cast | thin
-    clear = spread(taken.reshape(shape), 2 * SAMPLES)[::SAMPLES, ::SAMPLES]
-    return np.minimum(light, np.where(clear, 1, table_lines(width, height)))
+    clear = spread(taken.reshape(shape), 2 * fine)[::samples, ::samples]
+    table = table_lines(width, height).repeat(density, 0).repeat(density, 1)
+    return np.minimum(light, np.where(clear, 1, table))
 
 
 def table_lines(width, height):
@@ -276,30 +283,35 @@ def blue_field():
     return np.where(line[..., None], field + (14, 20, 30), field)
 
 
-def lettering(text, size, baseline):
+def lettering(text, size, baseline, density):
     """A line of lettering across the middle, as a mask from 0 to 1."""
-    face = ImageFont.truetype(FONTS + "C059-BdIta.otf", size * 4)
-    mask = Image.new("L", (SIDE * 4, SIDE * 4), 0)
-    ImageDraw.Draw(mask).text((SIDE * 2, baseline * 4), text, 255, face, "ms")
-    return np.asarray(mask.resize((SIDE, SIDE), Image.BOX)) / 255.0
+    fine = 4 * density
+    face = ImageFont.truetype(FONTS + "C059-BdIta.otf", size * fine)
+    mask = Image.new("L", (SIDE * fine, SIDE * fine), 0)
+    ImageDraw.Draw(mask).text((SIDE * fine // 2, baseline * fine), text, 255, face, "ms")
+    return np.asarray(mask.resize((SIDE * density, SIDE * density), Image.BOX)) / 255.0
 
 
-def title_colours():
+def title_colours(density):
     """The picture as an array of colours."""
-    colours = blue_field()
+    colours = blue_field().repeat(density, 0).repeat(density, 1)
     blend = lambda under, over, mask: under + (np.asarray(over) - under) * mask[..., None]
     for text, size, baseline, top, bottom in (
             ("Vostrand KALVON", 41, 56, (255, 255, 255), (200, 220, 255)),
             ("Multimedia", 56, 116, (255, 244, 170), (255, 190, 40))):
-        mask = lettering(text, size, baseline)
-        shadow = np.max([np.roll(mask, (k, k), (0, 1)) for k in (1, 2, 3)], axis=0)
+        mask = lettering(text, size, baseline, density)
+        shifts = range(1, 3 * density + 1)
+        shadow = np.max([np.roll(mask, (k, k), (0, 1)) for k in shifts], axis=0)
         colours = blend(colours, (0, 0, 32), shadow)
-        share = np.clip((np.arange(SIDE) - baseline + size * 0.72) / (size * 0.72), 0, 1)
+        row = np.arange(SIDE * density) / density
+        share = np.clip((row - baseline + size * 0.72) / (size * 0.72), 0, 1)
         fill = np.array(top) + np.outer(share, np.subtract(bottom, top))
         colours = blend(colours, fill[:, None, :], mask)
     x, y = PANEL
-    colours[y:, x:] = engraving(SIDE - x, SIDE - y)[..., None] * 255
-    colours[y - 1, x - 1:] = colours[y - 1:, x - 1] = (0, 0, 0)
+    left, top = x * density, y * density
+    colours[top:, left:] = engraving(SIDE - x, SIDE - y, density)[..., None] * 255
+    colours[top - density:top, left - density:] = (0, 0, 0)
+    colours[top - density:, left - density:left] = (0, 0, 0)
     return colours
 
 
@@ -359,6 +371,28 @@ def icon(drawing):
     return struct.pack("<HHHBBBBHHII", 0, 1, 1, 32, 32, 16, 0, 1, 4, len(image), 22) + image
 
 
+def smoothed(picture):
+    """Three by three pixels for each: stairs of two shades become slopes."""
+    padded = np.pad(picture, 1, "edge")
+    near = {(r, c): padded[1 + r:padded.shape[0] - 1 + r, 1 + c:padded.shape[1] - 1 + c]
+            for r in (-1, 0, 1) for c in (-1, 0, 1)}
+    larger = picture.repeat(3, 0).repeat(3, 1)
+    for r, c in ((-1, -1), (-1, 1), (1, -1), (1, 1)):
+        row, column = near[r, 0], near[0, c]
+        corner = (row == column) & (row != near[-r, 0]) & (column != near[0, -c])
+        part = larger[1 + r::3, 1 + c::3]
+        part[corner] = row[corner]
+    return larger
+
+
+def save_dense(path, picture):
+    """Few colours are enough, and make a small file."""
+    image = Image.fromarray(picture.astype(np.uint8))
+    if image.mode == "RGB":
+        image = image.quantize(256, Image.Quantize.MEDIANCUT, dither=Image.Dither.NONE)
+    image.save(path.with_name(path.stem + f"@{DENSE}x.png"), optimize=True)
+
+
 def main():
     folder = Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
@@ -366,9 +400,12 @@ def main():
     greys = [(k, k, k) for k in range(256)]
     files = {name: bitmap(drawing, greys) for name, drawing in small_icons(small)}
     files["kalvon.ico"] = icon(program)
-    files["title.bmp"] = bitmap(nearest(title_colours(), title_palette()), title_palette(), 2)
+    files["title.bmp"] = bitmap(nearest(title_colours(1), title_palette()), title_palette(), 2)
     for name, content in files.items():
         (folder / name).write_bytes(content)
+    for name, drawing in small_icons(small):
+        save_dense(folder / name, smoothed(drawing))
+    save_dense(folder / "title.bmp", np.clip(title_colours(DENSE), 0, 255))
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@
 #include "shell/toolkit/controls/button.h"
 #include "shell/toolkit/controls/control_array.h"
 #include "shell/toolkit/controls/label.h"
+#include "shell/toolkit/events/timer.h"
 #include "shell/toolkit/input/picture_box.h"
 #include "shell/toolkit/input/scroll_bar.h"
 #include "shell/toolkit/input/text_box.h"
@@ -60,6 +61,7 @@ class FrmGlavni : public toolkit::Form {
   toolkit::Label Label2;
 
   toolkit::Strip& strip;
+  toolkit::Timer minute;  ///< Wakes up at a whole minute of the time spent on the crossword.
 };
 
 extern toolkit::FormHandle<FrmGlavni> frm_glavni;

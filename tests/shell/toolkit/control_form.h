@@ -17,13 +17,15 @@ class ControlForm : public Form {
  public:
   ControlForm() : Form({"controls", "Controls", Border::sizeable, Scale::pixels, 6000, 4500}) {
     Show();
-    QApplication::setActiveWindow(InnerWidget());
+    QApplication::setActiveWindow(Host());
     QApplication::processEvents();
   }
 
+  /// The host's window.
+  QWidget* Host() { return InnerWidget()->window(); }
   template <typename Kind = QWidget>
   Kind* Widget(const char* name) {
-    return InnerWidget()->findChild<Kind*>(QString::fromUtf8(name));
+    return Host()->findChild<Kind*>(QString::fromUtf8(name));
   }
 
   PictureBox picture{*this, {"picture", {150, 0, 60, 50}, 5}};

@@ -5,23 +5,55 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QShortcutEvent>
 
 #include "shell/toolkit/controls/captions_p.h"
+#include "shell/toolkit/drawing/text_code_p.h"
 
 namespace toolkit {
 
 namespace {
 
-/// The host's button, which Enter presses as well as Space.
+/// The host's button, which Enter presses as well as Space, and a second Alt key letter as well as
+/// the one that it shows.
 class PushButton : public QPushButton {
+ public:
+  void AlsoBy(const QKeySequence& keys) {
+    if (second_keys_ != 0) releaseShortcut(second_keys_);
+    second_keys_ = keys.isEmpty() ? 0 : grabShortcut(keys);
+  }
+
  protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut) return QPushButton::event(event);
+    const auto& keys = static_cast<const QShortcutEvent&>(*event);
+    if (keys.shortcutId() != second_keys_) return QPushButton::event(event);
+    if (keys.isAmbiguous())
+      setFocus(Qt::ShortcutFocusReason);
+    else
+      animateClick();
+    return true;
+  }
+
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
       click();
     else
       QPushButton::keyPressEvent(event);
   }
+
+ private:
+  int second_keys_ = 0;
 };
+
+/// Alt with the letter that a Cyrillic keyboard has on the key of the caption's Alt key letter.
+/// Where it is the only keyboard, the host knows no other.
+QKeySequence CyrillicKeys(const std::string& caption) {
+  const std::size_t mark = caption.find('&');
+  if (mark == std::string::npos) return {};
+  const QString letter = Decode(caption.substr(mark + 1, 1), TextCode::national_cyrillic);
+  return {QStringLiteral("Alt+") + letter.toUpper()};
+}
 
 }  // namespace
 
@@ -48,7 +80,9 @@ void Button::Default() {
 }
 
 void Button::ShowCaption() {
-  static_cast<QPushButton*>(widget())->setText(CaptionWithMnemonic(Caption(), FaceInUse()));
+  auto* button = static_cast<PushButton*>(widget());
+  button->setText(CaptionWithMnemonic(Caption(), FaceInUse()));
+  button->AlsoBy(CyrillicKeys(Caption()));
 }
 
 OptionButton::OptionButton(Container& parent, const ControlSheet& sheet)

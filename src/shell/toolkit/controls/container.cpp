@@ -3,9 +3,15 @@
 
 #include <QWidget>
 
+#include "shell/toolkit/controls/control.h"
+
 namespace toolkit {
 
 bool Window::Visible() const { return InnerWidget()->isVisible(); }
+
+void Window::RescaleControls() const {
+  for (Control* control : controls_) control->Rescale();
+}
 
 void Window::ChainTabStops() const {
   QWidget* before = nullptr;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <vector>
 
 #include "shell/toolkit/drawing/scale.h"
 
@@ -9,6 +10,7 @@ class QWidget;
 
 namespace toolkit {
 
+class Control;
 class Window;
 
 /// Anything that controls can stand in: a form, a frame, a picture.
@@ -37,13 +39,18 @@ class Window : public Container {
 
   Window& OwningWindow() override { return *this; }
 
+  /// A control stands in the form, or in something inside it.
+  void AddControl(Control& control) { controls_.push_back(&control); }
   /// Lets the Tab key stop at a widget of the form, in the order of the tab indexes.
   void AddTabStop(int tab_index, QWidget* widget) { tab_stops_.emplace(tab_index, widget); }
 
  protected:
   void ChainTabStops() const;
+  /// Shows all controls by the present zoom.
+  void RescaleControls() const;
 
  private:
+  std::vector<Control*> controls_;  ///< Each behind what it stands in.
   std::multimap<int, QWidget*> tab_stops_;
   bool enabled_ = true;
 };

@@ -33,6 +33,7 @@ class FocusWatch : public QObject {
   const Event<>& got_focus_;
 };
 
+/// Pixels of the design.
 int Pixels(int units, Scale scale) {
   return scale == Scale::pixels
              ? units
@@ -57,6 +58,7 @@ Control::Control(Container& parent, const ControlSheet& sheet, std::unique_ptr<Q
   widget_->setParent(parent.InnerWidget());
   widget_->setFocusPolicy(Qt::NoFocus);
   widget_->installEventFilter(new FocusWatch(widget_.get(), GotFocus));
+  parent.OwningWindow().AddControl(*this);
   PlaceWidget();
   Control::FontChanged();
 }
@@ -81,10 +83,10 @@ void Control::Height(int height) {
 
 void Control::PlaceWidget() {
   const Scale scale = parent_.InnerScale();
-  const int left = Pixels(place_.left, scale);
-  const int top = Pixels(place_.top, scale);
-  widget_->setGeometry(left, top, Pixels(place_.left + place_.width, scale) - left,
-                       Pixels(place_.top + place_.height, scale) - top);
+  const QPoint top_left(Zoomed(Pixels(place_.left, scale)), Zoomed(Pixels(place_.top, scale)));
+  const QPoint bottom_right(Zoomed(Pixels(place_.left + place_.width, scale)),
+                            Zoomed(Pixels(place_.top + place_.height, scale)));
+  widget_->setGeometry(QRect(top_left, bottom_right - QPoint(1, 1)));
 }
 
 void Control::ApplyPlace() {
@@ -135,7 +137,26 @@ void Control::Charset(int charset) {
 
 Face& Control::FaceInUse() const { return Face::Of(font_name_, font_size_, font_bold_, charset_); }
 
-void Control::FontChanged() { widget_->setFont(FaceInUse().font()); }
+void Control::SpokenName(const std::string& name) {
+  const QString shown = QString::fromStdString(name);
+  if (widget_->accessibleName() != shown) widget_->setAccessibleName(shown);
+}
+
+void Control::SpokenDescription(const std::string& description) {
+  const QString shown = QString::fromStdString(description);
+  if (widget_->accessibleDescription() != shown) widget_->setAccessibleDescription(shown);
+}
+
+std::string Control::Decoded(const std::string& text) const {
+  return FaceInUse().Shown(text).toStdString();
+}
+
+void Control::Rescale() {
+  Control::FontChanged();
+  ApplyPlace();
+}
+
+void Control::FontChanged() { widget_->setFont(FaceInUse().ZoomedFont()); }
 
 void Control::PlaceChanged() {}
 

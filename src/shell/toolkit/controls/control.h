@@ -81,6 +81,15 @@ class Control {
   [[nodiscard]] int Charset() const { return charset_; }
   void Charset(int charset);
 
+  // For assistive technology, in the host's own encoding. A control with a caption says that.
+  void SpokenName(const std::string& name);
+  void SpokenDescription(const std::string& description);
+  /// A text in the characters of the control, in the host's own encoding.
+  [[nodiscard]] std::string Decoded(const std::string& text) const;
+
+  /// Shows the control by the present zoom.
+  void Rescale();
+
   Event<> GotFocus;
 
  protected:

@@ -26,7 +26,16 @@ void Label::Align(Alignment alignment) {
   static_cast<QLabel*>(widget())->setAlignment(HostAlignment(alignment) | Qt::AlignTop);
 }
 
-void Label::Lift(int pixels) { widget()->setContentsMargins(0, -pixels, 0, 0); }
+void Label::Lift(int pixels) {
+  lift_ = pixels;
+  PlaceChanged();
+}
+
+void Label::PlaceChanged() {
+  widget()->setContentsMargins(0, -Zoomed(lift_), 0, 0);
+  // By the zoom, letters can be a little wider than their place.
+  if (auto_size_ && Visible()) widget()->resize(widget()->size().expandedTo(widget()->sizeHint()));
+}
 
 void Label::Boxed() {
   auto* label = static_cast<QLabel*>(widget());

@@ -22,8 +22,10 @@ class Label : public CaptionedControl {
 
  protected:
   void ShowCaption() override;
+  void PlaceChanged() override;
 
  private:
+  int lift_ = 0;
   bool auto_size_ = false;
 };
 

@@ -15,14 +15,22 @@ constexpr int hourglass = 11;
 
 int mouse_pointer = 0;
 
+/// Whole pixels of the design.
+int InDesign(int pixels) { return static_cast<int>(pixels / Zoom()); }
+
 }  // namespace
 
 int Screen::Width() {
-  return QGuiApplication::primaryScreen()->geometry().width() * twips_per_pixel;
+  return InDesign(QGuiApplication::primaryScreen()->geometry().width()) * twips_per_pixel;
 }
 
 int Screen::Height() {
-  return QGuiApplication::primaryScreen()->geometry().height() * twips_per_pixel;
+  return InDesign(QGuiApplication::primaryScreen()->geometry().height()) * twips_per_pixel;
+}
+
+Screen::Area Screen::FreeArea() {
+  const QSize size = QGuiApplication::primaryScreen()->availableSize();
+  return {size.width(), size.height()};
 }
 
 int Screen::MousePointer() { return mouse_pointer; }

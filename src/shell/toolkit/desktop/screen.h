@@ -4,9 +4,15 @@
 namespace toolkit {
 
 struct Screen {
-  // Size in twips.
+  // Size in twips of the design.
   static int Width();
   static int Height();
+  /// Pixels of the host that no panel of the desktop takes.
+  struct Area {
+    int width = 0;
+    int height = 0;
+  };
+  static Area FreeArea();
   /// 0 default, 11 hourglass.
   static int MousePointer();
   static void MousePointer(int pointer);

@@ -8,6 +8,8 @@
 #include <memory>
 #include <tuple>
 
+#include "shell/toolkit/drawing/scale.h"
+
 namespace toolkit {
 
 namespace {
@@ -81,7 +83,26 @@ Face& Face::Of(const std::string& name, double points, bool bold, int charset) {
   return *face;
 }
 
+QFont Face::ZoomedFont() const {
+  QFont zoomed = font_;
+  // Rounded down, so that no text takes more room than it has.
+  zoomed.setPixelSize(std::max(1, static_cast<int>(font_.pixelSize() * Zoom())));
+  return zoomed;
+}
+
 void Face::ForgetAll() { Faces().clear(); }
+
+/// Draws a text for the next times, in black.
+void Face::Keep(const LaidOut& text, qreal zoom) {
+  const QSizeF room(text.width + 2 * overhang, 2 * text.drop + QFontMetrics(*text.font).height());
+  text.drawn_zoom = zoom;
+  text.drawn = QImage((room * zoom).toSize(), QImage::Format_ARGB32_Premultiplied);
+  text.drawn.fill(Qt::transparent);
+  QPainter painter(&text.drawn);
+  painter.scale(zoom, zoom);
+  painter.setFont(*text.font);
+  painter.drawStaticText(overhang, text.drop, text.text);
+}
 
 const Face::LaidOut& Face::LayOut(const std::string& text) {
   const auto key = QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
@@ -104,8 +125,18 @@ const Face::LaidOut& Face::LayOut(const std::string& text) {
 }
 
 void Face::Print(QPainter& painter, QPoint at, const LaidOut& text) {
-  painter.setFont(*text.font);
-  painter.drawStaticText(at + QPoint(0, text.drop), text.text);
+  const qreal zoom = painter.worldTransform().m11();
+  constexpr qsizetype longest_kept = 3;
+  if (zoom == 1 || text.text.text().size() > longest_kept) {
+    painter.setFont(*text.font);
+    painter.drawStaticText(at + QPoint(0, text.drop), text.text);
+    return;
+  }
+  if (text.drawn_zoom != zoom) Keep(text, zoom);
+  const QTransform zoomed = painter.worldTransform();
+  painter.resetTransform();
+  painter.drawImage(zoomed.map(at - QPoint(overhang, 0)), text.drawn);
+  painter.setWorldTransform(zoomed);
 }
 
 }  // namespace toolkit

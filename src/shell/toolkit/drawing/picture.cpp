@@ -89,10 +89,10 @@ QImage ReadBitmap(QFile& file) {
   return image;
 }
 
-Picture ReadPicture(QFile& file) {
+std::shared_ptr<const QImage> ReadPicture(QFile& file) {
   auto image = std::make_shared<const QImage>(ReadBitmap(file));
   if (image->isNull()) throw files::RuntimeError(files::error::invalid_picture);
-  return Picture(std::move(image));
+  return image;
 }
 
 }  // namespace
@@ -102,13 +102,17 @@ Picture LoadPicture(const std::string& path) {
   QFile file;
   if (!file.open(files::OpenForReading(path), QFile::ReadOnly, QFile::AutoCloseHandle))
     throw files::RuntimeError(files::error::path_file_access);
-  return ReadPicture(file);
+  return Picture(ReadPicture(file));
 }
 
 Picture BuiltInPicture(const std::string& name) {
-  QFile file(QStringLiteral(":/pictures/") + QString::fromStdString(name));
+  const QString path = QStringLiteral(":/pictures/") + QString::fromStdString(name);
+  QFile file(path);
   if (!file.open(QFile::ReadOnly)) throw files::RuntimeError(files::error::file_not_found);
-  return ReadPicture(file);
+  auto image = ReadPicture(file);
+  QImage dense(path.chopped(4) + QStringLiteral("@3x.png"));
+  if (dense.isNull()) return Picture(std::move(image));
+  return Picture(std::move(image), std::make_shared<const QImage>(std::move(dense)));
 }
 
 }  // namespace toolkit

@@ -3,9 +3,11 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
+#include "shell/toolkit/drawing/scale.h"
 #include "shell/toolkit/drawing/surface_p.h"
 #include "shell/toolkit/events/key_codes_p.h"
 
@@ -31,14 +33,32 @@ bool CanMove(const QAbstractSlider* bar) {
 }  // namespace
 
 QPainter& Surface::Painter(QPainter::CompositionMode mode) {
-  if (!painter_.isActive()) painter_.begin(&image_);
+  if (!painter_.isActive()) {
+    painter_.begin(&image_);
+    painter_.scale(ratio_, ratio_);
+  }
   if (painter_.compositionMode() != mode) painter_.setCompositionMode(mode);
   return painter_;
 }
 
+void Surface::Fill(const QRect& box, QPainter::CompositionMode mode, const QColor& colour) {
+  const auto edge = [this](int place) { return qRound(place * ratio_); };
+  const QPoint first(edge(box.x()), edge(box.y()));
+  const QSize size(edge(box.x() + box.width()) - first.x(),
+                   edge(box.y() + box.height()) - first.y());
+  QPainter& painter = Painter(mode);
+  const QTransform zoomed = painter.worldTransform();
+  painter.resetTransform();
+  painter.fillRect(QRect(first, size.expandedTo(QSize(1, 1))), colour);
+  painter.setWorldTransform(zoomed);
+  Drawn(box);
+}
+
 void Surface::Drawn(const QRect& drawn) {
-  // On a dense display the edges of what is drawn may lie within a pixel of the screen.
-  const QRect part = drawn.adjusted(-1, -1, 1, 1);
+  // The edges of what is drawn may lie within a pixel of the screen.
+  const QRect part = QRectF(QPointF(drawn.topLeft()) * Zoom(), QSizeF(drawn.size()) * Zoom())
+                         .toAlignedRect()
+                         .adjusted(-1, -1, 1, 1);
   // What is drawn without persistence goes to the screen at once, as the progress of a load must.
   if (persistent || !isVisible())
     update(part);
@@ -48,9 +68,11 @@ void Surface::Drawn(const QRect& drawn) {
 
 void Surface::Clear(const QColor& colour) {
   background_ = colour;
-  Painter(QPainter::CompositionMode_SourceOver).fillRect(rect(), colour);
+  Painter(QPainter::CompositionMode_SourceOver).fillRect(Area(), colour);
   update();
 }
+
+QRect Surface::Area() const { return {QPoint(), (QSizeF(size()) / Zoom()).toSize()}; }
 
 const QImage& Surface::Shown() {
   if (painter_.isActive()) painter_.end();
@@ -68,24 +90,29 @@ void Surface::AddFrame() {
 }
 
 void Surface::PlaceFrame() {
-  if (frame_) frame_->setGeometry(geometry().adjusted(-1, -1, 1, 1));
+  const int line = std::max(1, Zoomed(1));
+  if (frame_) frame_->setGeometry(geometry().adjusted(-line, -line, line, line));
 }
 
-void Surface::Fit() {
+bool Surface::Fit() {
   if (painter_.isActive()) painter_.end();
-  const qreal ratio = devicePixelRatioF();
-  const QSize wanted = size() * ratio;
-  if (image_.size() == wanted && image_.devicePixelRatio() == ratio) return;
-  QImage fitted(wanted, QImage::Format_RGB32);
-  fitted.setDevicePixelRatio(ratio);
-  fitted.fill(background_);
-  if (!image_.isNull()) QPainter(&fitted).drawImage(0, 0, image_);
-  image_ = fitted;
+  const QSize wanted = size() * devicePixelRatioF();
+  const qreal ratio = devicePixelRatioF() * Zoom();
+  if (image_.size() == wanted && ratio_ == ratio) return false;
+  const qreal stretch = ratio / std::exchange(ratio_, ratio);
+  const QImage before = std::exchange(image_, QImage(wanted, QImage::Format_RGB32));
+  image_.fill(background_);
+  if (!before.isNull()) {
+    QPainter painter(&image_);
+    painter.scale(stretch, stretch);
+    painter.drawImage(0, 0, before);
+  }
+  return stretch != 1 && !before.isNull();
 }
 
 void Surface::paintEvent(QPaintEvent* event) {
   const qreal ratio = devicePixelRatioF();
-  if (image_.devicePixelRatio() != ratio) Fit();
+  if (ratio_ != ratio * Zoom()) Fit();
   if (painter_.isActive()) painter_.end();
   const QRectF part = event->rect();
   QPainter(this).drawImage(part, image_, QRectF(part.topLeft() * ratio, part.size() * ratio));
@@ -103,7 +130,8 @@ void Surface::hideEvent(QHideEvent* event) {
 
 void Surface::mousePressEvent(QMouseEvent* event) {
   held_ = true;
-  pressed(ButtonNumber(event->button()), ShiftState(event->modifiers()), event->position());
+  pressed(ButtonNumber(event->button()), ShiftState(event->modifiers()),
+          event->position() / Zoom());
 }
 
 void Surface::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }

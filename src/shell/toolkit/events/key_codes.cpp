@@ -59,10 +59,13 @@ int ShiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 QString CharactersOf(const QKeyEvent& event) {
-  const bool alt_alone = event.modifiers().testFlag(Qt::AltModifier) &&
-                         !event.modifiers().testFlag(Qt::ControlModifier);
+  const Qt::KeyboardModifiers modifiers = event.modifiers();
+  const bool ctrl = modifiers.testFlag(Qt::ControlModifier);
+  const bool alt_alone = modifiers.testFlag(Qt::AltModifier) && !ctrl;
   if (alt_alone || event.key() == Qt::Key_Delete) return {};
-  return event.text();
+  // For some letters the host gives with Ctrl what it gives without.
+  const bool types = !event.text().isEmpty() && event.text().front() >= u' ';
+  return ctrl && types ? QString() : event.text();
 }
 
 }  // namespace toolkit

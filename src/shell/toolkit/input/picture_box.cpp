@@ -6,6 +6,7 @@
 
 #include "shell/toolkit/drawing/face_p.h"
 #include "shell/toolkit/drawing/surface_p.h"
+#include "shell/toolkit/input/accessible_picture_p.h"
 #include "shell/toolkit/input/scroll_bar.h"
 
 namespace toolkit {
@@ -31,6 +32,8 @@ PictureBox::PictureBox(Container& parent, const ControlSheet& sheet)
     MouseDown.Raise(button, shift, place.x() * units, place.y() * units);
   };
   surface().clicked = [this] { Click.Raise(); };
+  surface().accessible = [this] { return new AccessiblePicture(*this); };
+  QAccessible::installFactory(AccessiblePicture::Of);
   surface().Fit();
   surface().Clear(HostColour(back_color_));
 }
@@ -64,8 +67,7 @@ void PictureBox::BackColor(Colour colour) {
 
 void PictureBox::FilledBox(int x1, int y1, int x2, int y2, Colour colour) {
   const QRect box(QPoint(Pixels(x1), Pixels(y1)), QPoint(Pixels(x2), Pixels(y2)));
-  surface().Painter(HostMode(draw_mode_)).fillRect(box, HostColour(colour));
-  surface().Drawn(box);
+  surface().Fill(box, HostMode(draw_mode_), HostColour(colour));
 }
 
 void PictureBox::Circle(int x, int y, int radius, float start, float end) {
@@ -88,20 +90,32 @@ void PictureBox::Print(const std::string& text) {
   QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
   painter.setPen(Qt::black);
   Face::Print(painter, at, laid_out);
-  // Some letters reach beyond the width that they take up.
-  constexpr int overhang = 2;
-  surface().Drawn(
-      QRect(at, QSize(laid_out.width, face.LineHeight())).adjusted(-overhang, 0, overhang, 0));
+  surface().Drawn(QRect(at, QSize(laid_out.width, face.LineHeight()))
+                      .adjusted(-Face::overhang, 0, Face::overhang, 0));
 }
 
 void PictureBox::PaintPicture(const toolkit::Picture& picture, int x, int y) {
   const QPoint at(Pixels(x), Pixels(y));
-  surface().Painter(QPainter::CompositionMode_SourceOver).drawImage(at, picture.image());
-  surface().Drawn(QRect(at, picture.image().size()));
+  QPainter& painter = surface().Painter(QPainter::CompositionMode_SourceOver);
+  const QRect place(at, picture.image().size());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+  painter.drawImage(place, surface().IsZoomed() ? picture.dense() : picture.image());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+  surface().Drawn(place);
+}
+
+void PictureBox::TellSpoken() {
+  if (!QAccessible::isActive()) return;
+  QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget());
+  if (auto* const picture = dynamic_cast<AccessiblePicture*>(told)) picture->TellChanges();
+}
+
+void PictureBox::PressSpoken(const std::function<void()>& press) {
+  if (press && Enabled() && OwningWindow().Enabled() && widget()->isVisible()) RunHandler(press);
 }
 
 void PictureBox::PlaceChanged() {
-  surface().Fit();
+  if (surface().Fit() && !picture_.Empty()) PaintPicture(picture_, 0, 0);
   surface().PlaceFrame();
 }
 

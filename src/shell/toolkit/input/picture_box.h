@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "shell/toolkit/controls/control.h"
 #include "shell/toolkit/drawing/picture.h"
+#include "shell/toolkit/input/spoken_picture.h"
 
 namespace toolkit {
 
@@ -65,6 +67,14 @@ class PictureBox : public Control, public Container {
   /// Copies a picture at its own size.
   void PaintPicture(const toolkit::Picture& picture, int x, int y);
 
+  /// What assistive technology is told of the picture.
+  [[nodiscard]] const SpokenPicture& Spoken() const { return spoken_; }
+  void Spoken(SpokenPicture spoken) { spoken_ = std::move(spoken); }
+  /// What it was told may have changed. Costs nothing while nobody listens.
+  void TellSpoken();
+  /// Runs a press that came by that way, if the user could click.
+  void PressSpoken(const std::function<void()>& press);
+
   /// Button (1 left, 2 right, 4 middle), Shift state, and the position.
   Event<int, int, double, double> MouseDown;
   Event<> Click;
@@ -80,6 +90,7 @@ class PictureBox : public Control, public Container {
   [[nodiscard]] Surface& surface() const;
   [[nodiscard]] int Pixels(int units) const;
 
+  SpokenPicture spoken_;
   toolkit::Picture picture_;
   Scale scale_ = Scale::pixels;
   Colour back_color_ = 0xFFFFFF;

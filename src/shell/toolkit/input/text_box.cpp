@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/input/text_box.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -29,12 +30,15 @@ class TextField {
   virtual ~TextField() = default;
 
   virtual void WhenTyped(std::function<void()> action) = 0;
+  /// The text is another: typed, set by code, or written by assistive technology.
+  virtual void WhenChanged(const std::function<void()>& /*action*/) {}
   [[nodiscard]] virtual QString Shown() const = 0;
   /// Shows a text that is set by code, however long; 0 typed characters at most set no limit.
   virtual void Show(const QString& text, int typed_at_most) = 0;
   virtual void Lock() = 0;
   virtual void Flat() = 0;
   virtual void Align(Qt::Alignment alignment) = 0;
+  [[nodiscard]] virtual TextBox& box() const = 0;
 };
 
 /// The host's field, with its keys and clicks going through the box's events first.
@@ -46,6 +50,8 @@ class TypedField : public Field, public TextField {
     this->setAcceptDrops(false);
   }
 
+  [[nodiscard]] TextBox& box() const override { return box_; }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (box_.KeyTaken(*event))
@@ -54,12 +60,20 @@ class TypedField : public Field, public TextField {
       Field::keyPressEvent(event);
   }
 
-  // Letters that a dead key or an input method composes come here.
+  // Letters that a dead key or an input method composes come here. Shift may have been held for
+  // another of their keys, so that it only tells that a capital was meant.
   void inputMethodEvent(QInputMethodEvent* event) override {
-    if (event->commitString().isEmpty() || !box_.CharactersTaken(event->commitString()))
+    const QString& composed = event->commitString();
+    const bool shift = QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier) &&
+                       composed == composed.toUpper();
+    if (composed.isEmpty() || !box_.CharactersTaken(composed, shift)) {
       Field::inputMethodEvent(event);
-    else
-      event->accept();
+      return;
+    }
+    // What was on show while it was composed goes.
+    QInputMethodEvent without_letters(event->preeditString(), event->attributes());
+    Field::inputMethodEvent(&without_letters);
+    event->accept();
   }
 
   void mousePressEvent(QMouseEvent* event) override {
@@ -90,6 +104,10 @@ class SingleLine : public TypedField<QLineEdit> {
     connect(this, &QLineEdit::textEdited, this, std::move(action));
   }
 
+  void WhenChanged(const std::function<void()>& action) override {
+    connect(this, &QLineEdit::textChanged, this, action);
+  }
+
   [[nodiscard]] QString Shown() const override { return text(); }
 
   void Show(const QString& text, int typed_at_most) override {
@@ -111,7 +129,11 @@ class SingleLine : public TypedField<QLineEdit> {
  protected:
   void paintEvent(QPaintEvent* event) override {
     QLineEdit::paintEvent(event);
-    if (flat_) QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
+    if (!flat_) return;
+    QPainter painter(this);
+    const int line = std::max(1, Zoomed(1));
+    painter.setClipRegion(QRegion(rect()) - rect().adjusted(line, line, -line, -line));
+    painter.fillRect(rect(), painter.pen().color());
   }
 
  private:
@@ -166,6 +188,7 @@ std::unique_ptr<QWidget> MakeField(TextBox& box, Lines lines) {
 TextBox::TextBox(Container& parent, const ControlSheet& sheet, Lines lines)
     : Control(parent, sheet, MakeField(*this, lines)) {
   field().WhenTyped([this] { TakeTypedText(); });
+  field().WhenChanged([this] { TakeWrittenText(); });
   StopTabHere();
 }
 
@@ -209,21 +232,42 @@ void TextBox::TakeTypedText() {
   Change.Raise();
 }
 
+/// What assistive technology writes goes the way of typed characters.
+void TextBox::TakeWrittenText() {
+  const QString written = field().Shown();
+  if (showing_ || Encode(written, FaceInUse().code()) == text_) return;
+  ShowText();
+  if (!Enabled() || !parent().OwningWindow().Enabled()) return;
+  if (KeyPress.Handled())
+    CharactersTaken(written, false);
+  else
+    Text(Encode(written, FaceInUse().code()));
+}
+
 bool TextBox::KeyTaken(const QKeyEvent& event) {
   int key_code = KeyCodeOf(event);
   KeyDown.Raise(key_code, ShiftState(event.modifiers()));
-  const bool characters_taken = CharactersTaken(CharactersOf(event));
+  const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+  const bool characters_taken = CharactersTaken(CharactersOf(event), shift);
   return key_code == 0 || characters_taken;
 }
 
-bool TextBox::CharactersTaken(const QString& characters) {
+bool TextBox::CharactersTaken(const QString& characters, bool shift) {
   bool taken = false;
+  TextBox* box = this;
   for (const char32_t character : characters.toUcs4()) {
-    int code = EncodeTyped(character, FaceInUse().code());
-    KeyPress.Raise(code);
-    taken = taken || code == 0;
+    taken = box->CharacterTaken(character, shift) || taken;
+    const auto* focused = dynamic_cast<TextField*>(QApplication::focusWidget());
+    if (focused != nullptr) box = &focused->box();
   }
   return taken;
+}
+
+bool TextBox::CharacterTaken(char32_t character, bool shift) {
+  Typed.Raise(character, shift);
+  int code = EncodeTyped(character, FaceInUse().code());
+  KeyPress.Raise(code);
+  return code == 0;
 }
 
 }  // namespace toolkit

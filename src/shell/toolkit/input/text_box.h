@@ -37,6 +37,9 @@ class TextBox : public Control {
   Event<> Change;
   Event<> Click;
   Event<> DblClick;
+  /// A character as the keyboard gives it, by reference, and whether Shift is held. The one that
+  /// stands there in the end becomes a code.
+  Event<char32_t&, bool> Typed;
   /// Code of the character, by reference; set to 0 it drops the character.
   Event<int&> KeyPress;
   /// Code of the key, by reference, and the state of Shift (1), Ctrl (2) and Alt (4); a code set to
@@ -58,10 +61,13 @@ class TextBox : public Control {
   friend class TypedField;
   /// Raises the events of a key; whether the box takes no further action on it.
   bool KeyTaken(const QKeyEvent& event);
-  bool CharactersTaken(const QString& characters);
+  /// The same of characters. If one moves the focus to another box, the next ones are typed there.
+  bool CharactersTaken(const QString& characters, bool shift);
+  bool CharacterTaken(char32_t character, bool shift);
   [[nodiscard]] TextField& field() const;
   void ShowText();
   void TakeTypedText();
+  void TakeWrittenText();
 
   std::string text_;
   std::string link_topic_;

@@ -49,7 +49,6 @@ class MediaBar : public QWidget {
  private:
   void Add(QToolButton& button, QStyle::StandardPixmap sign, const QString& name) {
     button.setObjectName(name);
-    button.setAccessibleName(name);
     button.setIcon(style()->standardIcon(sign));
     button.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button.setFocusPolicy(Qt::NoFocus);
@@ -72,6 +71,13 @@ MediaControl::MediaControl(Container& parent, const ControlSheet& sheet)
 MediaControl::~MediaControl() { Close(); }
 
 MediaBar& MediaControl::bar() const { return *static_cast<MediaBar*>(widget()); }
+
+void MediaControl::SpokenNames(const std::string& play, const std::string& pause,
+                               const std::string& stop) {
+  bar().play.setAccessibleName(QString::fromStdString(play));
+  bar().pause.setAccessibleName(QString::fromStdString(pause));
+  bar().stop.setAccessibleName(QString::fromStdString(stop));
+}
 
 void MediaControl::Command(std::string_view command) {
   if (command == "Open")

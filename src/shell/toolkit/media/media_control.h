@@ -18,6 +18,9 @@ class MediaControl : public Control {
   MediaControl(Container& parent, const ControlSheet& sheet);
   ~MediaControl() override;
 
+  /// What assistive technology calls the buttons, in the host's own encoding.
+  void SpokenNames(const std::string& play, const std::string& pause, const std::string& stop);
+
   // Set before the command "Open".
   /// "WaveAudio", "Sequencer" or "AVIVideo".
   void DeviceType(const std::string& type) { device_type_ = type; }

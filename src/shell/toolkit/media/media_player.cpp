@@ -97,8 +97,8 @@ void MediaPlayer::Show(const QVideoFrame& frame) {
   if (!display_ || image.isNull()) return;
   // Some decoders leave the fourth byte empty, which is no transparency.
   if (image.depth() == 32) image.reinterpretAsFormat(QImage::Format_RGB32);
-  QRect place(QPoint(), image.size().scaled(display_->size(), Qt::KeepAspectRatio));
-  place.moveCenter(display_->rect().center());
+  QRect place(QPoint(), image.size().scaled(display_->Area().size(), Qt::KeepAspectRatio));
+  place.moveCenter(display_->Area().center());
   QPainter& painter = display_->Painter(QPainter::CompositionMode_SourceOver);
   painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
   painter.drawImage(place, image);

@@ -6,23 +6,35 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QStandardPaths>
-#include <QStyleFactory>
+#include <QWheelEvent>
 #include <csignal>
+#include <cstdlib>
 
 #include "files/host_paths.h"
 #include "shell/toolkit/desktop/browser_host.h"
 #include "shell/toolkit/drawing/face_p.h"
+#include "shell/toolkit/drawing/scale.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/media/window_handles_p.h"
 #include "shell/toolkit/windows/end_requests_p.h"
 #include "shell/toolkit/windows/form.h"
+#include "shell/toolkit/windows/zoomed_style_p.h"
 
 namespace toolkit {
 
 namespace {
 
 std::string program_folder;
+
+bool in_event_loop = false;
+
+/// The host ends the program where it stands when the screen is gone. Then the forms, which would
+/// be taken down without an application, stay.
+void EndAtOnce() {
+  if (in_event_loop) std::_Exit(EXIT_FAILURE);
+}
 
 QPalette PeriodPalette() {
   const QColor face(0xC0, 0xC0, 0xC0);
@@ -36,6 +48,20 @@ QPalette PeriodPalette() {
   palette.setColor(QPalette::Disabled, QPalette::Base, Qt::white);
   palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x80, 0x80, 0x80));
   palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
+  return palette;
+}
+
+/// Edges are black all around, where the period's are shaded.
+QPalette ContrastPalette() {
+  QPalette palette(Qt::white, Qt::white);
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Light,
+        QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Shadow, QPalette::Highlight})
+    palette.setColor(role, Qt::black);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::HighlightedText, Qt::yellow);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(0x60, 0x60, 0x60));
   return palette;
 }
 
@@ -71,6 +97,9 @@ class GatedApplication : public QApplication {
     const auto* widget = qobject_cast<QWidget*>(receiver);
     if (widget != nullptr && IsUserInput(event->type())) {
       if (!Form::TakesInput(widget->window())) return true;
+      if (event->type() == QEvent::Wheel &&
+          Form::TakesWheel(widget->window(), static_cast<const QWheelEvent&>(*event)))
+        return true;
       if (event->type() == QEvent::KeyPress &&
           Form::TakesKeys(widget->window(), static_cast<const QKeyEvent&>(*event)))
         return true;
@@ -91,12 +120,13 @@ Application::Application(int& argc, char** argv) {
   // Nothing here is drawn by a graphics card, and looking for one takes time.
   if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) qputenv("QT_XCB_GL_INTEGRATION", "none");
   QApplication::setDesktopSettingsAware(false);
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+  QApplication::setStyle(new ZoomedStyle);
   application_ = std::make_unique<GatedApplication>(argc, argv);
   QApplication::setApplicationName(QStringLiteral("kalvon"));
   QApplication::setPalette(PeriodPalette());
-  QApplication::setFont(Face::Of("MS Sans Serif", 8.25, false, 0).font());
+  Zoom(1);
   QApplication::setQuitOnLastWindowClosed(false);
+  static_cast<void>(std::atexit(EndAtOnce));
 }
 
 Application::~Application() { Face::ForgetAll(); }
@@ -104,7 +134,12 @@ Application::~Application() { Face::ForgetAll(); }
 int Application::Run() {
   if (Ended()) return 0;
   const EndRequests end_requests;
+  const QScopedValueRollback in_loop(in_event_loop, true);
   return QApplication::exec();
+}
+
+void HighContrast(bool high) {
+  QApplication::setPalette(high ? ContrastPalette() : PeriodPalette());
 }
 
 void MsgBox(const std::string& text) {

@@ -23,6 +23,9 @@ class Application {
   std::unique_ptr<QApplication> application_;
 };
 
+/// Shows all windows in black and white instead of grays.
+void HighContrast(bool high);
+
 /// A plain message box with an OK button; returns when it is closed.
 void MsgBox(const std::string& text);
 

@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/windows/form.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QResizeEvent>
-#include <QWidget>
+#include <QScreen>
+#include <QWheelEvent>
 #include <QWindow>
+#include <algorithm>
+#include <cstdlib>
 
 #include "shell/toolkit/controls/replace.h"
+#include "shell/toolkit/drawing/scale.h"
 #include "shell/toolkit/drawing/text_code_p.h"
+#include "shell/toolkit/windows/form_widget_p.h"
 #include "shell/toolkit/windows/strip.h"
 
 namespace toolkit {
@@ -32,14 +38,14 @@ FrameSize NominalFrame(Border border) {
 Qt::WindowFlags WindowFlags(Border border) {
   constexpr Qt::WindowFlags titled = Qt::CustomizeWindowHint | Qt::WindowTitleHint;
   if (border == Border::fixed_dialog) return Qt::Dialog | titled;
-  return Qt::Window | titled | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+  return Qt::Window | titled | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
          Qt::WindowCloseButtonHint;
 }
 
-/// On a keyboard that has no Latin letters at all, Serbian ones stand for them. Y is their Ж, which
-/// that keyboard has twice, or their Ѕ.
+/// On a keyboard that has no Latin letters at all, Serbian ones stand for them. Y is the Ж or the Ž
+/// that a Serbian keyboard has twice, or Ѕ.
 int LatinKey(int key) {
-  if (key == u'Ж' || key == u'Ѕ') return Qt::Key_Y;
+  if (key == u'Ж' || key == u'Ž' || key == u'Ѕ') return Qt::Key_Y;
   const bool cyrillic = QChar::script(static_cast<char32_t>(key)) == QChar::Script_Cyrillic;
   return cyrillic ? EncodeTyped(static_cast<char32_t>(key), TextCode::national_cyrillic) : key;
 }
@@ -50,32 +56,38 @@ std::string SpelledAlike(const QKeySequence& keys) {
 
 }  // namespace
 
-class FormWidget : public QWidget {
- public:
-  FormWidget(Form& form, Border border) : QWidget(nullptr, WindowFlags(border)), form_(form) {}
+FormWidget::FormWidget(Form& form, Border border)
+    : QWidget(nullptr, WindowFlags(border)), form_(form) {
+  QAccessible::installFactory(Accessible);
+}
 
-  [[nodiscard]] Form& form() const { return form_; }
+QAccessibleInterface* FormWidget::Accessible(const QString& /*class_name*/, QObject* object) {
+  auto* window = dynamic_cast<FormWidget*>(object);
+  if (window == nullptr) return nullptr;
+  const bool is_dialog = window->form_.border_ == Border::fixed_dialog;
+  return new QAccessibleWidget(window, is_dialog ? QAccessible::Dialog : QAccessible::Window);
+}
 
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QWidget::resizeEvent(event);
-    if (form_.strip_) form_.strip_->Place();
-    if (Replace(form_size_, QSize(width(), form_.InnerHeight()))) form_.Resize.Raise();
+void FormWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  form_.FitToWindow();
+}
+
+bool FormWidget::event(QEvent* event) {
+  const bool taken = QWidget::event(event);
+  if (event->type() == QEvent::WindowActivate) form_.Activate.Raise();
+  if (event->type() == QEvent::WindowDeactivate) form_.Deactivate.Raise();
+  return taken;
+}
+
+void FormWidget::closeEvent(QCloseEvent* event) {
+  bool keep_open = true;
+  if (form_.border_ == Border::sizeable && form_.Enabled()) {
+    keep_open = false;
+    form_.Unload.Raise(keep_open);
   }
-
-  void closeEvent(QCloseEvent* event) override {
-    bool keep_open = true;
-    if (form_.border_ == Border::sizeable && form_.Enabled()) {
-      keep_open = false;
-      form_.Unload.Raise(keep_open);
-    }
-    event->setAccepted(!keep_open);
-  }
-
- private:
-  Form& form_;
-  QSize form_size_;  ///< As at the last Resize.
-};
+  event->setAccepted(!keep_open);
+}
 
 namespace {
 
@@ -84,64 +96,80 @@ FormWidget* start_window = nullptr;
 
 }  // namespace
 
+std::vector<Form*>& AllForms() {
+  static std::vector<Form*> forms;
+  return forms;
+}
+
 Form::Form(const FormSheet& sheet)
     : widget_(std::make_unique<FormWidget>(*this, sheet.border)),
       border_(sheet.border),
       scale_(sheet.scale) {
+  AllForms().push_back(this);
   widget_->setObjectName(QString::fromStdString(sheet.name));
-  const int width = sheet.inner_width / twips_per_pixel;
-  const int height = sheet.inner_height / twips_per_pixel;
-  if (border_ == Border::fixed_dialog)
-    widget_->setFixedSize(width, height);
-  else
-    widget_->resize(width, height);
   if (start_window == nullptr) start_window = widget_.get();
+  TakeSize(sheet.inner_width / twips_per_pixel, sheet.inner_height / twips_per_pixel);
   Caption(sheet.caption);
 }
 
 Form::~Form() {
+  std::erase(AllForms(), this);
   if (start_window == widget_.get()) start_window = nullptr;
 }
 
 void Form::Left(int twips) {
   left_ = twips;
-  widget_->move(left_ / twips_per_pixel, top_ / twips_per_pixel);
+  Place();
 }
 
 void Form::Top(int twips) {
   top_ = twips;
-  widget_->move(left_ / twips_per_pixel, top_ / twips_per_pixel);
+  Place();
 }
 
-int Form::Width() const {
-  return (widget_->width() + NominalFrame(border_).width) * twips_per_pixel;
-}
+int Form::Width() const { return (width_ + NominalFrame(border_).width) * twips_per_pixel; }
 
 void Form::Width(int twips) {
-  TakeSize(twips / twips_per_pixel - NominalFrame(border_).width, InnerHeight());
+  TakeSize(twips / twips_per_pixel - NominalFrame(border_).width, height_);
 }
 
-int Form::Height() const {
-  return (InnerHeight() + NominalFrame(border_).height) * twips_per_pixel;
-}
+int Form::Height() const { return (height_ + NominalFrame(border_).height) * twips_per_pixel; }
 
 void Form::Height(int twips) {
-  TakeSize(widget_->width(), twips / twips_per_pixel - NominalFrame(border_).height);
+  TakeSize(width_, twips / twips_per_pixel - NominalFrame(border_).height);
 }
 
-int Form::InnerHeight() const { return widget_->height() - (strip_ ? Strip::height : 0); }
-
 void Form::TakeSize(int width, int height) {
-  const QSize window(width, height + (strip_ ? Strip::height : 0));
-  if (border_ == Border::fixed_dialog) widget_->setFixedSize(window);
-  widget_->resize(window);
+  const bool wider = Replace(width_, width);
+  const bool higher = Replace(height_, height);
+  if (!wider && !higher) return;
+  TakeWindowSize();
+  Resize.Raise();
 }
 
 Strip& Form::AddStrip() {
-  const int height = widget_->height();
   strip_ = std::make_unique<Strip>(*this);
-  TakeSize(widget_->width(), height);
+  TakeWindowSize();
   return *strip_;
+}
+
+/// Stands where it is said on an empty screen, or so beside the start form, wherever that has gone.
+void Form::Place() {
+  const auto zoomed = [](int twips) {
+    return Zoomed(static_cast<double>(twips) / twips_per_pixel);
+  };
+  QPoint at(zoomed(left_), zoomed(top_));
+  if (border_ == Border::fixed_dialog && start_window->isVisible()) {
+    const Form& start = start_window->form();
+    at += start_window->pos() - QPoint(zoomed(start.left_), zoomed(start.top_));
+    const QRect free = start_window->screen()->availableGeometry();
+    const auto held = [](int place, int size, int first, int room) {
+      return std::max(std::min(place, first + room - size), first);
+    };
+    at = {held(at.x(), zoomed(Width()), free.left(), free.width()),
+          held(at.y(), zoomed(Height()), free.top(), free.height())};
+  }
+  widget_->move(at);
 }
 
 void Form::Caption(const std::string& caption) {
@@ -162,7 +190,7 @@ void Form::Icon(const std::string& picture_name) {
       QIcon(QStringLiteral(":/pictures/") + QString::fromStdString(picture_name)));
 }
 
-Event<>& Form::Shortcut(const std::string& keys) {
+Event<bool&>& Form::Shortcut(const std::string& keys) {
   return shortcuts_[SpelledAlike(
       QKeySequence(QString::fromStdString(keys), QKeySequence::PortableText))];
 }
@@ -170,6 +198,7 @@ Event<>& Form::Shortcut(const std::string& keys) {
 void Form::Show() {
   if (!widget_->isVisible()) {
     ChainTabStops();
+    Place();
     if (border_ == Border::fixed_dialog && start_window != widget_.get()) {
       widget_->winId();  // The window must exist to stay above another.
       widget_->windowHandle()->setTransientParent(start_window->windowHandle());
@@ -182,7 +211,7 @@ void Form::Show() {
 
 void Form::Hide() { widget_->hide(); }
 
-QWidget* Form::InnerWidget() const { return widget_.get(); }
+QWidget* Form::InnerWidget() const { return &widget_->area; }
 
 void Form::EndStartForm() {
   if (start_window != nullptr) start_window->form().HostEnds.Raise();
@@ -193,6 +222,17 @@ bool Form::TakesInput(const QWidget* window) {
   return form_widget == nullptr || form_widget->form().Enabled();
 }
 
+bool Form::TakesWheel(const QWidget* window, const QWheelEvent& turn) {
+  const auto* form_widget = dynamic_cast<const FormWidget*>(window);
+  if (form_widget == nullptr || !turn.modifiers().testFlag(Qt::ControlModifier)) return false;
+  Form& form = form_widget->form();
+  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+  form.turned_ += turn.angleDelta().y();
+  for (; std::abs(form.turned_) >= notch; form.turned_ %= notch)
+    form.ZoomWheel.Raise(form.turned_ > 0);
+  return true;
+}
+
 bool Form::TakesKeys(const QWidget* window, const QKeyEvent& keys) {
   const auto* form_widget = dynamic_cast<const FormWidget*>(window);
   if (form_widget == nullptr) return false;
@@ -201,8 +241,9 @@ bool Form::TakesKeys(const QWidget* window, const QKeyEvent& keys) {
   const QKeyCombination combination(modifiers, static_cast<Qt::Key>(LatinKey(keys.key())));
   const auto found = shortcuts.find(SpelledAlike(combination));
   if (found == shortcuts.end() || !found->second.Handled()) return false;
-  found->second.Raise();
-  return true;
+  bool taken = true;
+  found->second.Raise(taken);
+  return taken;
 }
 
 }  // namespace toolkit

@@ -9,6 +9,7 @@
 #include "shell/toolkit/events/event.h"
 
 class QKeyEvent;
+class QWheelEvent;
 
 namespace toolkit {
 
@@ -36,7 +37,7 @@ class Form : public Window {
  public:
   ~Form() override;
 
-  // Outer position and size in twips on the screen.
+  // Outer position and size in twips of the design on the screen.
   [[nodiscard]] int Left() const { return left_; }
   void Left(int twips);
   [[nodiscard]] int Top() const { return top_; }
@@ -58,14 +59,34 @@ class Form : public Window {
   /// The icon of the window, one of the pictures that are built in.
   void Icon(const std::string& picture_name);
 
+  /// Makes all forms as large as this one is at a zoom, or as the screen has room for.
+  void ZoomTo(double factor);
+  /// As large as the screen, without a title; or as before.
+  void FullScreen(bool full_screen);
+  [[nodiscard]] bool FullScreen() const;
+  /// The zooms that a window's size can lead to are multiples of one through this number: the
+  /// pitch of what must come out even.
+  void ZoomGrain(int grain) { zoom_grain_ = grain; }
+
+  /// Where the host's window stands, in the host's own words; giving them back puts it there.
+  [[nodiscard]] std::string HostPlace() const;
+  void HostPlace(const std::string& place);
+
   /// Gives the window a strip below the form, which no size of the form counts.
   Strip& AddStrip();
 
   /// Raised by a combination of keys, "F5" or "Ctrl+S", wherever in the form the focus is. The
-  /// control that has it does not see them.
-  Event<>& Shortcut(const std::string& keys);
+  /// control that has it does not see them, unless the handler clears the argument.
+  Event<bool&>& Shortcut(const std::string& keys);
 
   Event<> Resize;
+  /// The zoom is another: pictures that were drawn are to be drawn anew.
+  Event<> Rescaled;
+  /// The wheel was turned with Ctrl, away from the user or towards him.
+  Event<bool> ZoomWheel;
+  /// The keyboard comes to this window, or goes to another one, or to none.
+  Event<> Activate;
+  Event<> Deactivate;
   /// The user closes the form. Setting the argument keeps it open.
   Event<bool&> Unload;
   /// The desktop or a signal ends the program, also while the form is disabled.
@@ -79,25 +100,38 @@ class Form : public Window {
 
   /// Whether the window is no form, or a form that is enabled.
   static bool TakesInput(const QWidget* window);
-  /// Raises the shortcut of the keys, if the window is a form that has one; whether it has.
+  /// Raises the shortcut of the keys, if the window is a form that has one; whether it took them.
   static bool TakesKeys(const QWidget* window, const QKeyEvent& keys);
+  /// Raises ZoomWheel if the window is a form and Ctrl is held; whether it is.
+  static bool TakesWheel(const QWidget* window, const QWheelEvent& turn);
 
  protected:
   explicit Form(const FormSheet& sheet);
 
  private:
   friend class FormWidget;
-  [[nodiscard]] int InnerHeight() const;
+  /// Pixels of the design, with the strip.
+  [[nodiscard]] int WindowHeight() const;
   void TakeSize(int width, int height);
+  [[nodiscard]] double ZoomThatFits(int width, int height) const;
+  void TakeWindowSize();
+  void FitToWindow();
+  void LayOut();
+  void Place();
+  static void ShowAll(double factor);
 
   std::unique_ptr<FormWidget> widget_;
   std::unique_ptr<Strip> strip_;
-  std::map<std::string, Event<>> shortcuts_;
+  std::map<std::string, Event<bool&>> shortcuts_;
   std::string caption_;
   Border border_;
   Scale scale_;
   int left_ = 0;
   int top_ = 0;
+  int width_ = 0;  ///< Of the inner area, in pixels of the design, as is the next.
+  int height_ = 0;
+  int zoom_grain_ = 1;
+  int turned_ = 0;  ///< By the wheel, in eighths of a degree, less than a notch.
 };
 
 /// A form that is loaded, hidden, at its first touch and lives until it is unloaded.

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "shell/toolkit/windows/strip.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <utility>
+#include <map>
 
 #include "shell/toolkit/controls/replace.h"
+#include "shell/toolkit/drawing/scale.h"
 #include "shell/toolkit/drawing/text_code_p.h"
 #include "shell/toolkit/windows/form.h"
 
@@ -39,25 +42,31 @@ class LineOfText : public QLabel {
     setIndent(indent_);
   }
 
+  /// It is always as wide as its text.
+  bool whole = false;
+
   void Show(const QString& text) {
     whole_ = text;
     setAccessibleName(text);
-    Elide();
-  }
-
-  [[nodiscard]] int WholeWidth() const {
-    return fontMetrics().horizontalAdvance(whole_) + 2 * (indent_ + frameWidth());
+    Fit();
   }
 
  protected:
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) Fit();
+  }
+
   void resizeEvent(QResizeEvent* event) override {
     QLabel::resizeEvent(event);
-    Elide();
+    Fit();
   }
 
  private:
-  void Elide() {
-    const int room = width() - 2 * (indent_ + frameWidth());
+  void Fit() {
+    const int around = 2 * (indent_ + frameWidth());
+    if (whole) setFixedWidth(fontMetrics().horizontalAdvance(whole_) + around);
+    const int room = width() - around;
     setText(fontMetrics().elidedText(whole_, Qt::ElideRight, room).replace(u'\n', u' '));
     // As rich text a tip breaks its lines.
     setToolTip(text() == whole_ ? QString()
@@ -68,98 +77,148 @@ class LineOfText : public QLabel {
   QString whole_;
 };
 
+/// A button that opens a menu above itself.
+class MenuButton : public QPushButton {
+ public:
+  MenuButton(Form& form, QWidget* parent) : QPushButton(parent), form_(form) {
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    connect(this, &QPushButton::clicked, [this] { RunHandler([this] { Open(); }); });
+    connect(&menu_, &QMenu::aboutToHide, this, [this] { setDown(false); });
+  }
+
+  void Show(const std::string& caption, const std::vector<MenuRow>& rows) {
+    for (const auto& [action, row] : shown_)
+      for (const QString& keys : KeysOf(row)) form_.Shortcut(keys.toStdString()) = nullptr;
+    shown_.clear();
+    menus_ = {{"", &menu_}};
+    for (QAction* before : menu_.actions()) {
+      menu_.removeAction(before);
+      // It may be running this very moment.
+      before->menu() != nullptr ? before->menu()->deleteLater() : before->deleteLater();
+    }
+    for (const MenuRow& row : rows) Add(row);
+    setText(Shown(caption));
+  }
+
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int narrowest = 75;
+    return QPushButton::sizeHint().expandedTo(QSize(Zoomed(narrowest), 0));
+  }
+
+  void Open() {
+    for (const auto& [action, row] : shown_) {
+      if (row.enabled) action->setEnabled(row.enabled());
+      if (row.checked) action->setChecked(row.checked());
+    }
+    setDown(true);
+    // A click that closes the menu, on the button say, does nothing else.
+    menu_.setAttribute(Qt::WA_NoMouseReplay);
+    menu_.popup(mapToGlobal(QPoint(0, -menu_.sizeHint().height())));
+  }
+
+ private:
+  struct ShownRow {
+    QAction* action;
+    MenuRow row;
+  };
+
+  void Add(const MenuRow& row) {
+    QMenu*& menu = menus_[row.submenu];
+    if (menu == nullptr) menu = menu_.addMenu(Shown(row.submenu));
+    const std::function<bool()> run = [this, row] {
+      const bool can_run = form_.Enabled() && (!row.enabled || row.enabled());
+      if (can_run) row.action();
+      return can_run;
+    };
+    QAction* action = menu->addAction(ShownWithKeys(row));
+    action->setSeparator(row.text.empty());
+    action->setCheckable(static_cast<bool>(row.checked));
+    connect(action, &QAction::triggered, action, [run] { RunHandler(run); });
+    for (const QString& keys : KeysOf(row)) {
+      const bool alone = QKeySequence(keys)[0].keyboardModifiers() == Qt::NoModifier;
+      form_.Shortcut(keys.toStdString()) = [run, alone](bool& taken) { taken = run() || !alone; };
+    }
+    shown_.push_back({action, row});
+  }
+
+  Form& form_;
+  QMenu menu_{this};
+  std::vector<ShownRow> shown_;
+  std::map<std::string, QMenu*> menus_;  ///< By the name of the submenu.
+};
+
 }  // namespace
 
 class StripWidget : public QWidget {
  public:
-  explicit StripWidget(QWidget* window) : QWidget(window) {
+  /// The strip is told as a status bar.
+  static QAccessibleInterface* Accessible(const QString& /*class_name*/, QObject* object) {
+    auto* strip = dynamic_cast<StripWidget*>(object);
+    return strip == nullptr ? nullptr : new QAccessibleWidget(strip, QAccessible::StatusBar);
+  }
+
+  explicit StripWidget(Form& form)
+      : QWidget(form.InnerWidget()->window()), commands(form, this), zoom(form, this) {
+    QAccessible::installFactory(Accessible);
     setObjectName(QStringLiteral("strip"));
-    button.setObjectName(QStringLiteral("strip_menu"));
+    commands.setObjectName(QStringLiteral("strip_menu"));
     text.setObjectName(QStringLiteral("strip_text"));
     status.setObjectName(QStringLiteral("strip_status"));
-    button.setFocusPolicy(Qt::NoFocus);
-    button.setToolTip(QStringLiteral("F10"));
-    button.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    zoom.setObjectName(QStringLiteral("strip_zoom"));
+    commands.setToolTip(QStringLiteral("F10"));
     text.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     status.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    status.whole = true;
     status.hide();
+    zoom.hide();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2, 2, 2, 2);
     row->setSpacing(2);
-    row->addWidget(&button);
+    row->addWidget(&commands);
     row->addWidget(&text);
     row->addWidget(&status);
+    row->addWidget(&zoom);
   }
 
-  QPushButton button{this};
-  QMenu menu{this};
+  MenuButton commands;
   LineOfText text{this};
   LineOfText status{this};
+  MenuButton zoom;
 };
 
-Strip::Strip(Form& form) : form_(form), widget_(std::make_unique<StripWidget>(form.InnerWidget())) {
-  const auto open = [this] { OpenMenu(); };
-  form_.Shortcut("F10") = open;
-  QObject::connect(&widget_->button, &QPushButton::clicked, [open] { RunHandler(open); });
-  QObject::connect(&widget_->menu, &QMenu::aboutToHide, &widget_->button,
-                   [this] { widget_->button.setDown(false); });
+Strip::Strip(Form& form) : widget_(std::make_unique<StripWidget>(form)) {
+  form.Shortcut("F10") = [this](bool&) { widget_->commands.Open(); };
   widget_->show();
 }
 
 Strip::~Strip() = default;
 
-void Strip::Menu(const std::string& caption, std::vector<MenuRow> rows) {
-  for (const MenuRow& row : rows_)
-    for (const QString& keys : KeysOf(row)) form_.Shortcut(keys.toStdString()) = nullptr;
-  rows_ = std::move(rows);
-  QMenu& menu = widget_->menu;
-  for (QAction* before : menu.actions()) {
-    menu.removeAction(before);
-    before->deleteLater();  // It may be running this very moment.
-  }
-  for (const MenuRow& row : rows_) {
-    const std::function<void()> run = [this, row] { Run(row); };
-    QAction* action = menu.addAction(ShownWithKeys(row));
-    action->setSeparator(row.text.empty());
-    action->setCheckable(static_cast<bool>(row.checked));
-    QObject::connect(action, &QAction::triggered, action, [run] { RunHandler(run); });
-    for (const QString& keys : KeysOf(row)) form_.Shortcut(keys.toStdString()) = run;
-  }
-  widget_->button.setText(Shown(caption));
+void Strip::Menu(const std::string& caption, const std::vector<MenuRow>& rows) {
+  widget_->commands.Show(caption, rows);
 }
 
-void Strip::OpenMenu() {
-  QMenu& menu = widget_->menu;
-  const QList<QAction*> actions = menu.actions();
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    QAction* action = actions[static_cast<qsizetype>(i)];
-    if (rows_[i].enabled) action->setEnabled(rows_[i].enabled());
-    if (rows_[i].checked) action->setChecked(rows_[i].checked());
-  }
-  widget_->button.setDown(true);
-  // A click that closes the menu, on the button say, does nothing else.
-  menu.setAttribute(Qt::WA_NoMouseReplay);
-  menu.popup(widget_->button.mapToGlobal(QPoint(0, -menu.sizeHint().height())));
-}
-
-void Strip::Run(const MenuRow& row) const {
-  if (form_.Enabled() && (!row.enabled || row.enabled())) row.action();
+void Strip::ZoomMenu(const std::string& caption, const std::vector<MenuRow>& rows) {
+  widget_->zoom.Show(caption, rows);
+  widget_->zoom.show();
 }
 
 void Strip::Text(const std::string& text) {
-  if (Replace(text_, text)) widget_->text.Show(Shown(text));
+  if (!Replace(text_, text)) return;
+  widget_->text.Show(Shown(text));
+  // The host cannot say that something is to be read out, but that the bar has another name.
+  widget_->setAccessibleName(Shown(text));
 }
 
 void Strip::Status(const std::string& text) {
   if (!Replace(status_, text)) return;
   widget_->status.Show(Shown(text));
-  widget_->status.setFixedWidth(widget_->status.WholeWidth());
   widget_->status.setVisible(!text.empty());
 }
 
-void Strip::Place() {
-  const QWidget* window = form_.InnerWidget();
-  widget_->setGeometry(0, window->height() - height, window->width(), height);
+void Strip::Place(int pixels) {
+  const QWidget* window = widget_->window();
+  widget_->setGeometry(0, window->height() - pixels, window->width(), pixels);
 }
 
 }  // namespace toolkit

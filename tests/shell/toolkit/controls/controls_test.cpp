@@ -14,6 +14,9 @@ namespace toolkit::testing {
 class ControlsTest : public ::testing::Test {
  protected:
   void PressButton() { QTest::mouseClick(form.Widget("button"), Qt::LeftButton); }
+  void PressWithAlt(Qt::Key key) {
+    QTest::sendKeyEvent(QTest::Click, form.Host(), key, QString(), Qt::AltModifier);
+  }
   ControlForm form;
   int raised = 0;
 };
@@ -42,18 +45,28 @@ TEST_F(ControlsTest, ADisabledFormLooksAsBeforeAndTakesNoInputAndNothingDoesAfte
     End();
   };
   form.Unload = [&](bool&) { ++raised; };
-  const QImage before = form.InnerWidget()->grab().toImage();
+  const QImage before = form.Host()->grab().toImage();
   form.Enabled(false);
   PressButton();
-  QTest::keyClick(form.InnerWidget(), Qt::Key_R, Qt::AltModifier);
-  form.InnerWidget()->close();
-  EXPECT_EQ(raised, 0);
-  EXPECT_EQ(form.InnerWidget()->grab().toImage(), before);
+  for (const Qt::Key key : {Qt::Key_R, Qt::Key(u'Р')}) PressWithAlt(key);
+  form.Host()->close();
+  EXPECT_FALSE(QTest::qWaitFor([&] { return raised != 0; }, 150)) << "Alt presses for 100 ms";
+  EXPECT_EQ(form.Host()->grab().toImage(), before);
   form.Enabled(true);
   PressButton();
   PressButton();
   EXPECT_EQ(raised, 11);
   Restart();
+}
+
+TEST_F(ControlsTest, AltWithTheSameLetterOfACyrillicKeyboardPressesAButton) {
+  form.button.Click = [&] { ++raised; };
+  for (const char* caption : {"&Re{i", "S&olve"}) {
+    form.button.Caption(caption);
+    for (const Qt::Key key : {Qt::Key(u'Р'), Qt::Key(u'О')}) PressWithAlt(key);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }));
+    raised = 0;
+  }
 }
 
 }  // namespace toolkit::testing

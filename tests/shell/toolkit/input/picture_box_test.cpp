@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "shell/toolkit/control_form.h"
+#include "shell/toolkit/drawing/scale.h"
 #include "shell/toolkit/drawing/surface_p.h"
 
 namespace toolkit::testing {
@@ -15,7 +16,7 @@ class PictureBoxTest : public ::testing::Test {
   /// What has come to the screen, with one pixel more on each side but the top.
   QImage OnScreen() {
     const QRect place = surface->geometry().adjusted(-1, 0, 1, 1);
-    const QPixmap window = form.InnerWidget()->screen()->grabWindow(form.InnerWidget()->winId());
+    const QPixmap window = form.Host()->screen()->grabWindow(form.Host()->winId());
     return window.copy(place).toImage().convertToFormat(QImage::Format_RGB32);
   }
 
@@ -49,6 +50,34 @@ TEST_F(PictureBoxTest, WhatIsDrawnReachesTheScreen) {
   EXPECT_EQ(OnScreen().pixelColor(58, 48), Qt::blue) << "at once";
   form.Hide();
   EXPECT_EQ(Drawn().pixelColor(58, 48), QColor(0xC0C0C0));
+}
+
+TEST_F(PictureBoxTest, ByAnyZoomMarksComeOffAndBoxesShareNoPixel) {
+  const auto invert = [&](int x1, int y1, int x2, int y2) {
+    picture.DrawMode(DrawMode::exclusive_or);
+    picture.FilledBox(x1, y1, x2, y2, 0x800000);
+    picture.DrawMode(DrawMode::copy);
+  };
+  for (int step = 16; step <= 80; ++step) {
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+      SCOPED_TRACE(step * ratio / 20);
+      Zoom(step * ratio / 20);  // The ratio of a screen multiplies as the zoom does.
+      picture.Rescale();
+      picture.BackColor(0xFFFFFF);
+      for (const int line : {13, 27, 41}) picture.Line(0, line, 59, line, 0);
+      picture.Print("\xC5\xBDiG");
+      const QImage before = Drawn();
+      for (const bool marked : {true, false}) {
+        invert(0, 14, 59, 26);
+        invert(28, 0, 28 + 26, 26);
+        EXPECT_EQ(Drawn() != before, marked);
+      }
+      for (int x = 0; x < 60; x += 2) invert(x, 0, x + 1, 49);
+      invert(0, 0, 59, 49);
+      EXPECT_EQ(Drawn(), before);
+    }
+  }
+  Zoom(1);
 }
 
 TEST_F(PictureBoxTest, TheWheelMovesTheBarOfItsDirectionAndElseTheOneThatCanMove) {

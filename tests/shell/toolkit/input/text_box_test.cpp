@@ -32,6 +32,8 @@ TEST_F(TextBoxTest, KeysAndCharactersAreDifferentNumbers) {
       {Qt::Key_Percent, "%", Qt::ShiftModifier, {0x10, 1, '5', 1, '%'}},
       {Qt::Key_A, "\x01", Qt::ControlModifier, {0x11, 2, 'A', 2, 1}},
       {Qt::Key_Q, "q", Qt::AltModifier, {0x12, 4, 'Q', 4}},
+      {Qt::Key(u'З'), "з", Qt::ControlModifier, {0x11, 2, 0xFF, 2}},
+      {Qt::Key_QuoteLeft, "`", Qt::ControlModifier, {0x11, 2, 0xC0, 2}},
       {Qt::Key_Delete, "\x7F", Qt::NoModifier, {0x2E, 0}},
       {Qt::Key_Enter, "\r", Qt::NoModifier, {0x0D, 0, 0x0D}},
       {Qt::Key_Hyper_L, "", Qt::NoModifier, {0xFF, 0}}};

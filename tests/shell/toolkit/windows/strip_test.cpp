@@ -30,9 +30,15 @@ class StripTest : public ::testing::Test {
       form.button.Click.Raise();
       SetMenu();
     };
-    strip.Menu("Meni", {{"Undo", "Ctrl+Z;Ctrl+Left;Ctrl+Y", [this] { return can_undo; }, undo},
-                        {},
-                        {"Time", "", {}, [this] { did += 't'; }, [] { return true; }}});
+    const auto can = [this] { return can_undo; };
+    const auto page = [this] { did += 'p'; };
+    strip.Menu(
+        "Meni",
+        {{"Undo", "Ctrl+Z;Ctrl+Left;Ctrl+Y", can, undo},
+         {},
+         {"Time", "", {}, [this] { did += 't'; }, [] { return true; }},
+         {.text = "Page", .keys = "PgDown", .enabled = can, .action = page, .submenu = "Rows"},
+         {"More", "", {}, [this] { did += 'm'; }}});
   }
   static QMenu* Opened() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
@@ -54,14 +60,19 @@ TEST_F(StripTest, ItsKeysRunTheRowsThatCanRunAndNoControlSeesThem) {
     QTest::sendKeyEvent(QTest::Click, field, key, QString(), Qt::ControlModifier);
     EXPECT_EQ(did, "u") << key;
   }
+  QTest::keyClick(field, Qt::Key_PageDown);
+  EXPECT_EQ(did, "up") << "a row of a row";
   can_undo = false;
   QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(did, "u") << "a row that cannot run keeps its keys";
+  EXPECT_EQ(did, "up") << "a row that cannot run keeps its keys";
   EXPECT_EQ(form.box.Text(), "a");
   EXPECT_EQ(seen_by_box, "\x11\x11\x11\x11\x11") << "the key Ctrl alone";
+  QTest::keyClick(field, Qt::Key_PageDown);
+  EXPECT_EQ(seen_by_box.back(), '\x22') << "but not a key alone";
+  seen_by_box.clear();
   strip.Menu("Meni", {});
   QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(seen_by_box.substr(5), "\x11Z") << "a key that the menu has no more";
+  EXPECT_EQ(seen_by_box, "\x11Z") << "a key that the menu has no more";
   EXPECT_EQ(form.box.Text(), "");
 }
 
@@ -72,7 +83,7 @@ TEST_F(StripTest, TheMenuOpensByF10AndByClickTellsWhatCanRunAndLeavesTheFocus) {
   EXPECT_TRUE(Opened()->actions()[2]->isChecked());
   QTest::keyClick(Opened(), Qt::Key_Escape);
   can_undo = false;
-  for (const auto& [key, expected] : {std::pair(Qt::Key_Up, "t"), {Qt::Key_Down, "tu"}}) {
+  for (const auto& [key, expected] : {std::pair(Qt::Key_Up, "m"), {Qt::Key_Down, "mu"}}) {
     QTest::mouseClick(button, Qt::LeftButton);
     ASSERT_NE(Opened(), nullptr);
     EXPECT_EQ(Opened()->actions()[0]->isEnabled(), can_undo);
@@ -87,7 +98,7 @@ TEST_F(StripTest, TheMenuOpensByF10AndByClickTellsWhatCanRunAndLeavesTheFocus) {
   QTest::keyClick(field, Qt::Key_F10);
   QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Opened(), nullptr);
-  EXPECT_EQ(did, "tu") << "the form is disabled";
+  EXPECT_EQ(did, "mu") << "the form is disabled";
 }
 
 TEST_F(StripTest, StandsUnderTheFormWhoseSizesAndTabsDoNotCountIt) {
@@ -103,7 +114,7 @@ TEST_F(StripTest, StandsUnderTheFormWhoseSizesAndTabsDoNotCountIt) {
   EXPECT_EQ(other.Widget("strip")->geometry(), QRect(0, 400, 400, 22));
   other.Caption("a[*].qvm");
   other.Modified(true);
-  EXPECT_EQ(other.InnerWidget()->windowHandle()->title(), QStringLiteral("a[*].qvm*"));
+  EXPECT_EQ(other.Host()->windowHandle()->title(), QStringLiteral("a[*].qvm*"));
   for (int i = 0; i < 8; ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget()->parentWidget(), other.InnerWidget());
