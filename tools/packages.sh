@@ -9,6 +9,7 @@ build_packages=(
   libbenchmark-dev
   libglib2.0-dev
   libgtest-dev
+  libzip-dev
   ninja-build
   pkg-config
   python3
