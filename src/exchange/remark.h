@@ -12,6 +12,8 @@ namespace kalvon::exchange {
 /// What a conversion has to say. Each has its sentence in remark_texts.cpp, in both languages.
 enum class Matter {
   // Errors: the conversion ends.
+  unreadable,      ///< The detail is the host's reason.
+  unwritable,      ///< The same.
   unknown_format,  ///< The content is of no format that is known.
   damaged,         ///< The file breaks the rules of its format; the detail says where or how.
   too_long,        ///< The file, or something in it, is larger than any crossword.
@@ -45,6 +47,7 @@ enum class Matter {
   slash_moved,
   medium_dropped,      ///< The format has no place for media; the clue is kept as a text.
   letters_simplified,  ///< The format's grid has plain letters alone.
+  entry_lost,          ///< A letter that the user wrote is none of the alphabet.
   entries_dropped,     ///< The format has no place for the letters of the user.
   blanks_dropped,      ///< The format has no place for the blanks of answers.
   texts_dropped,       ///< The format has no place for something; the detail names it.
@@ -53,8 +56,8 @@ enum class Matter {
 /// A sentence about a conversion, and the cell that it is about.
 struct Remark {
   Matter matter{};
-  GridCell cell = {};  ///< (0, 0) if it is about no single cell.
-  std::string detail;  ///< UTF-8.
+  GridCell cell = {};       ///< (0, 0) if it is about no single cell.
+  std::string detail = {};  ///< UTF-8.
   int times = 1;
 
   bool operator==(const Remark&) const = default;

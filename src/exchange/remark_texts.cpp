@@ -16,6 +16,8 @@ struct Sentence {
 };
 
 constexpr Sentence sentences[] = {
+    {Matter::unreadable, "Datoteka se ne može pročitati: %", "The file cannot be read: %"},
+    {Matter::unwritable, "Datoteka se ne može upisati: %", "The file cannot be written: %"},
     {Matter::unknown_format, "Sadržaj nije ukrštenica nijednog poznatog formata",
      "The content is no crossword of a known format"},
     {Matter::damaged, "Datoteka je oštećena: %", "The file is damaged: %"},
@@ -64,6 +66,8 @@ constexpr Sentence sentences[] = {
      "Of a multimedia clue the text alone is left"},
     {Matter::letters_simplified, "Slovo „%” u mreži je uprošćeno",
      "The letter \"%\" is a plain one in the grid"},
+    {Matter::entry_lost, "Upisano slovo ne postoji u azbuci",
+     "A letter of the user is not in the alphabet"},
     {Matter::entries_dropped, "Upisana slova su izostavljena",
      "The letters of the user were left out"},
     {Matter::blanks_dropped, "Razmaci u rešenjima su izostavljeni",

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "crossword/header.h"
+#include "exchange/storing.h"
+
+namespace kalvon::exchange {
+
+/// How a crossword is divided into installments.
+struct Division {
+  int installments = 1;
+  int join = join::none;  ///< One of `join`; none for one installment.
+};
+
+/// Reads the crossword of a file, its installments joined, as ReadCrossword, with its errors. The
+/// path is one of the logic. A language that is not told is found by the words of the head.
+HeadedCrossword ReadQvm(const std::string& path, Language language);
+
+/// What the nine lines of a head say.
+Head HeadOf(const Header& header, bool english);
+
+/// The bytes of the files, one for each installment. ConversionError for a crossword that does not
+/// divide into so many of the same size. Media tables are those of the crossword's first
+/// installment in the first file.
+std::vector<std::string> QvmFiles(const HeadedCrossword& headed, const Division& division,
+                                  Remarks& remarks);
+
+/// The name of an installment's file, or of the only one, for a name without an ending.
+/// ConversionError for installments whose base has not five characters.
+std::string QvmName(const std::string& base, const Division& division, int installment);
+
+/// A name for a crossword file that we make: of the text's letters and digits in ASCII, at most 16
+/// characters with no three digits at the end, and never empty. With `number` above 1 behind a
+/// hyphen.
+std::string MadeName(std::string_view text, int number = 1);
+
+}  // namespace kalvon::exchange
