@@ -87,6 +87,11 @@ Header HeaderFor(const HeadedCrossword& headed, const Division& division, int in
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+/// Whether three digits stand at the end.
+bool EndsInNumber(std::string_view name) {
+  return name.size() > 2 && std::ranges::all_of(name.substr(name.size() - 3), IsDigit);
+}
+
 /// A text in letters without accents, Cyrillic ones in Latin.
 std::string InAscii(std::string_view text) {
   std::string plain;
@@ -157,6 +162,10 @@ std::string QvmName(const std::string& base, const Division& division, int insta
   return InstallmentName(base, installment, "qvm");
 }
 
+bool IsTakenName(std::string_view base) {
+  return !base.empty() && base.find('.') == std::string_view::npos && !EndsInNumber(base);
+}
+
 std::string MadeName(std::string_view text, int number) {
   constexpr std::size_t longest = 16;
   std::string name;
@@ -172,8 +181,7 @@ std::string MadeName(std::string_view text, int number) {
   while (name.ends_with('-')) name.pop_back();
   if (name.empty()) name = "ukrstenica";
   name += behind;
-  if (name.size() > 2 && std::ranges::all_of(name.substr(name.size() - 3), IsDigit))
-    name.replace(name.size() - 1, 1, "-" + name.substr(name.size() - 1));
+  if (EndsInNumber(name)) name.replace(name.size() - 1, 1, "-" + name.substr(name.size() - 1));
   return name;
 }
 

@@ -33,6 +33,10 @@ std::vector<std::string> QvmFiles(const HeadedCrossword& headed, const Division&
 /// ConversionError for installments whose base has not five characters.
 std::string QvmName(const std::string& base, const Division& division, int installment);
 
+/// Whether the program opens a crossword of this name, which stands without its ending: it has no
+/// dot, and no three digits at its end that would number an installment.
+bool IsTakenName(std::string_view base);
+
 /// A name for a crossword file that we make: of the text's letters and digits in ASCII, at most 16
 /// characters with no three digits at the end, and never empty. With `number` above 1 behind a
 /// hyphen.

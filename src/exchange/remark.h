@@ -28,6 +28,10 @@ enum class Matter {
   many_letters,      ///< A cell holds several letters.
   uneven_parts,      ///< The grid does not divide into that many installments.
   installment_name,  ///< Installments need a name of five characters.
+  refused_name,      ///< The program does not open a crossword of this name.
+  exists,            ///< A file that is not to be replaced.
+  unknown_target,    ///< The detail lists what can be written.
+  one_file_wanted,   ///< Installments cannot go to the standard output.
   no_words,          ///< No word, and so nothing to solve.
   // Remarks.
   wrong_checksum,
