@@ -9,8 +9,11 @@
 #include <vector>
 
 #include "converter/endings.h"
+#include "converter/media_files.h"
+#include "crossword/installments.h"
 #include "exchange/crossword_file.h"
 #include "exchange/format.h"
+#include "exchange/media.h"
 
 namespace kalvon::converter {
 namespace {
@@ -47,25 +50,43 @@ std::string Beside(const std::string& path, const std::string& name) {
 
 std::vector<Output> QvmOutputs(const HeadedCrossword& headed, const std::string& target,
                                const Options& options, Remarks& remarks) {
-  const std::vector<std::string> files = exchange::QvmFiles(headed, options.division, remarks);
+  const std::vector<exchange::QvmFile> files =
+      exchange::QvmFiles(headed, options.division, remarks);
   if (target == standard_stream) {
     if (files.size() > 1) throw ConversionError(Matter::one_file_wanted);
-    return {{target, files.front()}};
+    return {{target, files.front().crossword}};
   }
   const std::string base = FileInfo(target).completeBaseName().toStdString();
   if (!exchange::IsTakenName(base)) throw ConversionError(Matter::refused_name, base);
   std::vector<Output> outputs;
-  for (const std::string& bytes : files) {
-    const int installment = static_cast<int>(outputs.size()) + 1;
-    outputs.push_back(
-        {Beside(target, exchange::QvmName(base, options.division, installment)), bytes});
+  for (const exchange::QvmFile& file : files) {
+    const int installment = static_cast<int>(&file - files.data()) + 1;
+    const std::string path = Beside(target, exchange::QvmName(base, options.division, installment));
+    outputs.push_back({path, file.crossword});
+    if (!file.pack.empty()) outputs.push_back({WithExtension(path, "qvd"), file.pack});
   }
   return outputs;
 }
 
+std::string TargetEnding(const std::string& target, const Options& options) {
+  return options.to.empty() ? exchange::EndingOf(target) : options.to;
+}
+
+/// Brings the media of a crossword's clues along, from its packs or the folder of the options and,
+/// for a format that has no packs, into that folder.
+void MoveMedia(HeadedCrossword& headed, const std::string& source, const std::string& target,
+               const Options& options, Remarks& remarks) {
+  const bool packs_wanted = TargetEnding(target, options) == "qvm";
+  const bool has_packs = exchange::IsQvm(source);
+  if (has_packs && (packs_wanted || !options.media.empty())) exchange::ReadMedia(headed, remarks);
+  if (!has_packs && packs_wanted) TakeMedia(headed, options.media, remarks);
+  if (has_packs && !packs_wanted && !options.media.empty())
+    WriteMedia(headed, options.media, options.force);
+}
+
 std::vector<Output> Outputs(const HeadedCrossword& headed, const std::string& target,
                             const Options& options, Remarks& remarks) {
-  const std::string ending = options.to.empty() ? exchange::EndingOf(target) : options.to;
+  const std::string ending = TargetEnding(target, options);
   if (ending == "qvm") return QvmOutputs(headed, target, options, remarks);
   const exchange::Format* const format = exchange::FormatOfEnding(ending);
   if (format == nullptr) throw ConversionError(Matter::unknown_target, TargetEndings());
@@ -91,7 +112,8 @@ bool Convert(const std::string& source, const std::string& target, const Options
   Remarks remarks;
   bool done = true;
   try {
-    const HeadedCrossword headed = Read(source, options, remarks);
+    HeadedCrossword headed = Read(source, options, remarks);
+    MoveMedia(headed, source, target, options, remarks);
     Write(Outputs(headed, target, options, remarks), options.force);
   } catch (const ConversionError& error) {
     remarks.Add(error.Why());

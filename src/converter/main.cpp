@@ -1,17 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
+#include <algorithm>
 
 #include "converter/conversion.h"
 #include "converter/options.h"
+#include "exchange/check.h"
 
 using namespace kalvon::converter;
 
 namespace {
 
 constexpr int done = 0;
+constexpr int remarked = 1;
 constexpr int failed = 2;
 
-bool Run(const Options& options) {
+int CheckAll(const Options& options) {
+  int worst = done;
+  for (const std::string& file : options.files) {
+    kalvon::exchange::Remarks remarks;
+    kalvon::exchange::Check(file, remarks);
+    for (const kalvon::exchange::Remark& remark : remarks.List()) {
+      worst = std::max(worst, IsError(remark.matter) ? failed : remarked);
+      Tell(file, remark);
+    }
+  }
+  return worst;
+}
+
+bool ConvertAll(const Options& options) {
   if (options.into.empty()) return Convert(options.files.front(), options.files.back(), options);
   bool whole = true;
   for (const std::string& source : options.files)
@@ -26,5 +42,7 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("kalvon-convert"));
   QCoreApplication::setApplicationVersion(QStringLiteral(KALVON_VERSION));
   const auto options = OptionsOf({argv, argv + argc});
-  return options && Run(*options) ? done : failed;
+  if (!options) return failed;
+  if (options->check) return CheckAll(*options);
+  return ConvertAll(*options) ? done : failed;
 }

@@ -17,17 +17,9 @@ namespace {
   throw ConversionError(matter, file.errorString().toStdString());
 }
 
-/// The sentences of errors that reading a crossword of this program raises.
+/// Why a crossword of this program could not be read.
 Matter MatterOf(int error) {
-  switch (error) {
-    case files::error::overflow:
-      return Matter::too_many_cells;
-    case files::error::subscript_out_of_range:
-    case files::error::input_past_end:
-      return Matter::damaged;
-    default:
-      return Matter::unreadable;
-  }
+  return error == files::error::overflow ? Matter::too_many_cells : Matter::not_whole;
 }
 
 }  // namespace
@@ -46,11 +38,12 @@ std::string BytesOf(const std::string& path) {
 HeadedCrossword ReadCrosswordFile(const std::string& path, const Storing& storing,
                                   Remarks& remarks) {
   if (!IsQvm(path)) return ReadCrosswordBytes(BytesOf(path), storing, remarks);
+  BytesOf(path);  // Tells better why a file cannot be read.
   try {
     const QString whole = QFileInfo(QString::fromStdString(path)).absoluteFilePath();
     return ReadQvm(files::LogicPath(whole.toStdString()), storing.language);
   } catch (const files::RuntimeError& error) {
-    throw ConversionError(MatterOf(error.number()), std::to_string(error.number()));
+    throw ConversionError(MatterOf(error.number()));
   }
 }
 

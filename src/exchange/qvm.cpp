@@ -7,8 +7,10 @@
 #include "crossword/cell.h"
 #include "crossword/fields.h"
 #include "crossword/installments.h"
+#include "crossword/pack_making.h"
 #include "crossword/reading.h"
 #include "exchange/clue_text.h"
+#include "exchange/media.h"
 #include "letters/unicode_text.h"
 
 namespace kalvon::exchange {
@@ -61,28 +63,78 @@ std::string InThree(int number) {
   return std::string(3 - std::min<std::size_t>(3, digits.size()), ' ') + digits;
 }
 
-Header HeaderFor(const HeadedCrossword& headed, const Division& division, int installment,
-                 Remarks& remarks) {
-  const Crossword& crossword = headed.crossword;
-  const HeadWords& words = WordsOf(headed.english);
+/// The cells of an installment in the grid of all.
+struct Block {
+  int number = 1;
+  int left = 0;   ///< Columns to the left of it.
+  int above = 0;  ///< Rows above it.
+  int width = 0;
+  int height = 0;
+
+  [[nodiscard]] bool Holds(GridCell cell) const {
+    return cell.x > left && cell.x <= left + width && cell.y > above && cell.y <= above + height;
+  }
+};
+
+std::vector<Block> BlocksOf(const Crossword& crossword, const Division& division) {
   const bool beside = division.join == join::side_by_side;
-  const int width = crossword.ukr_sirina / (beside ? division.installments : 1);
-  const int height = crossword.ukr_visina / (beside ? 1 : division.installments);
-  const bool below = division.join == join::one_under_the_other;
+  const int parts = division.installments;
+  const int divided = beside ? crossword.ukr_sirina : crossword.ukr_visina;
+  if (parts < 1 || divided % parts != 0) throw ConversionError(Matter::uneven_parts);
+  std::vector<Block> blocks;
+  for (int part = 0; part < parts; ++part) {
+    Block block{part + 1, 0, 0, crossword.ukr_sirina, crossword.ukr_visina};
+    (beside ? block.width : block.height) = divided / parts;
+    (beside ? block.left : block.above) = part * (divided / parts);
+    blocks.push_back(block);
+  }
+  return blocks;
+}
+
+MediaPack PackFor(const HeadedCrossword& headed, const Block& block) {
+  std::map<std::string, std::string> media;
+  for (const MediaClue& clue : MediaClues(headed.crossword)) {
+    const auto medium = headed.media.find(clue.medium);
+    if (block.Holds(clue.cell) && medium != headed.media.end()) media.insert(*medium);
+  }
+  return MakePack(media);
+}
+
+Header HeaderFor(const HeadedCrossword& headed, const Division& division, const Block& block,
+                 Remarks& remarks) {
+  const HeadWords& words = WordsOf(headed.english);
   const auto coded = [&](const std::string& text) {
     return CodedText(text, headed.english, remarks);
   };
-  const std::string beside_mark = beside ? "1" : "0";
-  const std::string below_mark = below ? "1" : "0";
-  return {installment == 1 ? crossword.media_sadrzaj(1) : "",
-          std::string(words.title) + coded(headed.head.title),
-          std::string(words.dimensions) + "X=" + InThree(width) + " Y=" + InThree(height),
-          std::string(words.description) + coded(DescriptionLine(headed.head, words)),
-          std::string(words.installment) + std::to_string(installment),
-          "H1: " + beside_mark,
-          "V1: " + below_mark,
-          "H2: " + beside_mark,
-          "V2: " + below_mark};
+  const std::string beside = division.join == join::side_by_side ? "1" : "0";
+  const std::string below = division.join == join::one_under_the_other ? "1" : "0";
+  return {
+      "",
+      std::string(words.title) + coded(headed.head.title),
+      std::string(words.dimensions) + "X=" + InThree(block.width) + " Y=" + InThree(block.height),
+      std::string(words.description) + coded(DescriptionLine(headed.head, words)),
+      std::string(words.installment) + std::to_string(block.number),
+      "H1: " + beside,
+      "V1: " + below,
+      "H2: " + beside,
+      "V2: " + below};
+}
+
+QvmFile FileFor(const HeadedCrossword& headed, const Division& division, const Block& block,
+                Remarks& remarks) {
+  MediaPack pack = PackFor(headed, block);
+  Header header = HeaderFor(headed, division, block, remarks);
+  header.front() = pack.table;
+  QvmFile file{.crossword = "", .pack = std::move(pack.bytes)};
+  const auto print = [&](const std::string& line) { file.crossword.append(line).append(line_end); };
+  std::ranges::for_each(header, print);
+  for (int y = block.above + 1; y <= block.above + block.height; ++y) {
+    for (int x = block.left + 1; x <= block.left + block.width; ++x) {
+      print(headed.crossword.ukr_polja(x, y, 1));
+      print(headed.crossword.ukr_polja(x, y, 2));
+    }
+  }
+  return file;
 }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -129,29 +181,12 @@ HeadedCrossword ReadQvm(const std::string& path, Language language) {
   return headed;
 }
 
-std::vector<std::string> QvmFiles(const HeadedCrossword& headed, const Division& division,
-                                  Remarks& remarks) {
-  const Crossword& crossword = headed.crossword;
-  const bool beside = division.join == join::side_by_side;
-  const int parts = division.installments;
-  const int divided = beside ? crossword.ukr_sirina : crossword.ukr_visina;
-  if (parts < 1 || divided % parts != 0) throw ConversionError(Matter::uneven_parts);
-  const int width = beside ? crossword.ukr_sirina / parts : int{crossword.ukr_sirina};
-  const int height = beside ? int{crossword.ukr_visina} : crossword.ukr_visina / parts;
-  std::vector<std::string> made;
-  for (int part = 0; part < parts; ++part) {
-    std::string bytes;
-    for (const std::string& line : HeaderFor(headed, division, part + 1, remarks))
-      bytes.append(line).append(line_end);
-    const int left = beside ? part * width : 0;
-    const int above = beside ? 0 : part * height;
-    for (int y = above + 1; y <= above + height; ++y) {
-      for (int x = left + 1; x <= left + width; ++x) {
-        bytes.append(crossword.ukr_polja(x, y, 1)).append(line_end);
-        bytes.append(crossword.ukr_polja(x, y, 2)).append(line_end);
-      }
-    }
-    made.push_back(std::move(bytes));
+std::vector<QvmFile> QvmFiles(const HeadedCrossword& headed, const Division& division,
+                              Remarks& remarks) {
+  std::vector<QvmFile> made;
+  for (const Block& block : BlocksOf(headed.crossword, division)) {
+    Remarks again;  // The head is the same in each.
+    made.push_back(FileFor(headed, division, block, made.empty() ? remarks : again));
   }
   return made;
 }

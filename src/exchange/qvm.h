@@ -23,11 +23,16 @@ HeadedCrossword ReadQvm(const std::string& path, Language language);
 /// What the nine lines of a head say.
 Head HeadOf(const Header& header, bool english);
 
-/// The bytes of the files, one for each installment. ConversionError for a crossword that does not
-/// divide into so many of the same size. Media tables are those of the crossword's first
-/// installment in the first file.
-std::vector<std::string> QvmFiles(const HeadedCrossword& headed, const Division& division,
-                                  Remarks& remarks);
+/// The bytes of one installment's file, and of the media pack beside it, empty for none.
+struct QvmFile {
+  std::string crossword;
+  std::string pack;
+};
+
+/// The files, one for each installment, with the media of its clues. ConversionError for a
+/// crossword that does not divide into so many of the same size.
+std::vector<QvmFile> QvmFiles(const HeadedCrossword& headed, const Division& division,
+                              Remarks& remarks);
 
 /// The name of an installment's file, or of the only one, for a name without an ending.
 /// ConversionError for installments whose base has not five characters.

@@ -12,6 +12,7 @@ namespace kalvon::exchange {
 /// What a conversion has to say. Each has its sentence in remark_texts.cpp, in both languages.
 enum class Matter {
   // Errors: the conversion ends.
+  not_whole,       ///< A file of this program that is no whole crossword.
   unreadable,      ///< The detail is the host's reason.
   unwritable,      ///< The same.
   unknown_format,  ///< The content is of no format that is known.
@@ -32,7 +33,15 @@ enum class Matter {
   exists,            ///< A file that is not to be replaced.
   unknown_target,    ///< The detail lists what can be written.
   one_file_wanted,   ///< Installments cannot go to the standard output.
+  unknown_medium,    ///< A file that no clue can show.
   no_words,          ///< No word, and so nothing to solve.
+  cells_missing,     ///< The file has fewer cells than its size says; the detail is the file.
+  cell_form,         ///< A cell string that breaks its form.
+  start_on_block,
+  clue_not_closed,
+  medium_refused,     ///< The program writes no file of this name or size, or the table lacks it.
+  medium_cut,         ///< The pack ends before its end.
+  medium_unplayable,  ///< It is not what its name says.
   // Remarks.
   wrong_checksum,
   accent_taken_off,  ///< From the letter of a cell.
@@ -49,13 +58,21 @@ enum class Matter {
   text_lost,          ///< By "?".
   dollar_replaced,
   slash_moved,
+  medium_missing,      ///< The detail is its name.
   medium_dropped,      ///< The format has no place for media; the clue is kept as a text.
   letters_simplified,  ///< The format's grid has plain letters alone.
+  word_without_start,  ///< Two letters and more, where none begins.
+  short_word,          ///< One of a single letter.
+  marks_differ,        ///< Fields of a cell and starts of words.
+  unused_medium,       ///< The detail is its name.
   entry_lost,          ///< A letter that the user wrote is none of the alphabet.
   entries_dropped,     ///< The format has no place for the letters of the user.
   blanks_dropped,      ///< The format has no place for the blanks of answers.
   texts_dropped,       ///< The format has no place for something; the detail names it.
 };
+
+/// Whether it ends a conversion, or makes a crossword unfit.
+constexpr bool IsError(Matter matter) { return matter < Matter::wrong_checksum; }
 
 /// A sentence about a conversion, and the cell that it is about.
 struct Remark {

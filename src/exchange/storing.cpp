@@ -69,6 +69,7 @@ class Storage {
     Number();
     return {std::move(crossword_),
             {puzzle_.title, puzzle_.author, puzzle_.copyright, puzzle_.description},
+            {},
             english_};
   }
 

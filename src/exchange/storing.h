@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "crossword/crossword.h"
@@ -23,7 +24,8 @@ struct Head {
 struct HeadedCrossword {
   Crossword crossword = {};  ///< In one piece, whatever installments it came from.
   Head head = {};
-  bool english = false;  ///< Its language, English or Serbian.
+  std::map<std::string, std::string> media = {};  ///< Bytes of the files that its clues name.
+  bool english = false;                           ///< Its language, English or Serbian.
 };
 
 enum class Language {

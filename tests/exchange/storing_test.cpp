@@ -159,9 +159,10 @@ class QvmTest : public CrosswordFolder {
   /// The crossword from its files, written anew.
   HeadedCrossword Rewritten(const HeadedCrossword& headed, const Division& division) {
     Remarks remarks;
-    const std::vector<std::string> files = QvmFiles(headed, division, remarks);
+    const std::vector<QvmFile> files = QvmFiles(headed, division, remarks);
     for (int i = 0; i < division.installments; ++i)
-      folder.Put(QvmName("zimsk", division, i + 1), files.at(static_cast<std::size_t>(i)));
+      folder.Put(QvmName("zimsk", division, i + 1),
+                 files.at(static_cast<std::size_t>(i)).crossword);
     return ReadQvm(folder.Logic(QvmName("zimsk", division, 1)), Language::found);
   }
 
