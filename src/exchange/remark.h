@@ -14,6 +14,9 @@ enum class Matter {
   // Errors: the conversion ends.
   unknown_format,  ///< The content is of no format that is known.
   damaged,         ///< The file breaks the rules of its format; the detail says where or how.
+  ends_early,      ///< The file ends before all of its parts have come.
+  damaged_line,    ///< A line breaks the rules of the format; the detail is its number and text.
+  no_section,      ///< A part of the file is missing; the detail names it.
   too_long,        ///< The file, or something in it, is larger than any crossword.
   scrambled,       ///< Its solution is locked.
   other_kind,      ///< It is a puzzle of another kind; the detail names it.
@@ -22,11 +25,12 @@ enum class Matter {
   no_cells,
   too_many_cells,
   too_many_numbers,
-  no_letter,         ///< A cell holds what is no letter of the alphabet; the detail is its text.
-  many_letters,      ///< A cell holds several letters.
-  uneven_parts,      ///< The grid does not divide into that many installments.
-  installment_name,  ///< Installments need a name of five characters.
-  no_words,          ///< No word, and so nothing to solve.
+  no_letter,           ///< A cell holds what is no letter of the alphabet; the detail is its text.
+  many_letters,        ///< A cell holds several letters.
+  uneven_parts,        ///< The grid does not divide into that many installments.
+  installment_name,    ///< Installments need a name of five characters.
+  no_words,            ///< No word, and so nothing to solve.
+  too_large_to_write,  ///< The format has no room for the grid; the detail is its longest side.
   // Remarks.
   wrong_checksum,
   accent_taken_off,  ///< From the letter of a cell.
@@ -39,6 +43,7 @@ enum class Matter {
   numbers_differ,     ///< The detail is the number in the file and ours.
   clue_without_word,  ///< The detail is the clue.
   word_without_clue,
+  answer_differs,     ///< From the letters in the grid; the detail is the clue's number and answer.
   text_approximated,  ///< A character of a text was replaced by a similar one.
   text_lost,          ///< By "?".
   dollar_replaced,
@@ -46,6 +51,7 @@ enum class Matter {
   medium_dropped,      ///< The format has no place for media; the clue is kept as a text.
   letters_simplified,  ///< The format's grid has plain letters alone.
   entries_dropped,     ///< The format has no place for the letters of the user.
+  holes_filled,        ///< The format knows no holes; they became blocks.
   blanks_dropped,      ///< The format has no place for the blanks of answers.
   texts_dropped,       ///< The format has no place for something; the detail names it.
 };
