@@ -50,8 +50,8 @@ std::string Beside(const std::string& path, const std::string& name) {
 
 std::vector<Output> QvmOutputs(const HeadedCrossword& headed, const std::string& target,
                                const Options& options, Remarks& remarks) {
-  const std::vector<exchange::QvmFile> files =
-      exchange::QvmFiles(headed, options.division, remarks);
+  const exchange::Division division = options.division.value_or(headed.division);
+  const std::vector<exchange::QvmFile> files = exchange::QvmFiles(headed, division, remarks);
   if (target == standard_stream) {
     if (files.size() > 1) throw ConversionError(Matter::one_file_wanted);
     return {{target, files.front().crossword}};
@@ -61,7 +61,7 @@ std::vector<Output> QvmOutputs(const HeadedCrossword& headed, const std::string&
   std::vector<Output> outputs;
   for (const exchange::QvmFile& file : files) {
     const int installment = static_cast<int>(&file - files.data()) + 1;
-    const std::string path = Beside(target, exchange::QvmName(base, options.division, installment));
+    const std::string path = Beside(target, exchange::QvmName(base, division, installment));
     outputs.push_back({path, file.crossword});
     if (!file.pack.empty()) outputs.push_back({WithExtension(path, "qvd"), file.pack});
   }

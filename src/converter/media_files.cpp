@@ -12,6 +12,7 @@
 #include "exchange/crossword_file.h"
 #include "exchange/media.h"
 #include "exchange/qvm.h"
+#include "letters/unicode_text.h"
 
 namespace kalvon::converter {
 namespace {
@@ -54,6 +55,12 @@ std::string CodedLines(const std::string& text, bool english, Remarks& remarks) 
   for (std::string line; std::getline(lines, line);)
     coded += exchange::CodedText(line, english, remarks) + "\r\n";
   return coded;
+}
+
+/// A text of a pack as authors write it.
+std::string WrittenLines(std::string text, bool english) {
+  std::erase(text, '\r');
+  return english ? text : UnicodeText(text, true);
 }
 
 std::string LoadedBitmap(const std::string& path, const std::string& bytes) {
@@ -99,7 +106,8 @@ void WriteMedia(const HeadedCrossword& headed, const std::string& folder, bool f
     if (!force && QFileInfo::exists(path))
       throw ConversionError(Matter::exists, path.toStdString());
     media.mkpath(QStringLiteral("."));
-    exchange::WriteBytes(path.toStdString(), bytes);
+    const bool text = exchange::EndingOf(name) == "txt";
+    exchange::WriteBytes(path.toStdString(), text ? WrittenLines(bytes, headed.english) : bytes);
   }
 }
 

@@ -55,7 +55,7 @@ QString Wrong(const QCommandLineParser& parser, const Options& options) {
     return QStringLiteral("--script is latin or cyrillic");
   if (divided && parser.isSet(beside) == parser.isSet(below))
     return QStringLiteral("--installments needs --beside or --below");
-  if (divided && (options.division.installments < 1 || options.division.installments > 999))
+  if (divided && (options.division->installments < 1 || options.division->installments > 999))
     return QStringLiteral("--installments is a number from 1 to 999");
   if (options.size < 16 || options.size > 8192) return QStringLiteral("--size is 16 to 8192");
   if (options.check) return options.files.empty() ? QStringLiteral("no file is named") : QString();
@@ -91,10 +91,9 @@ std::optional<Options> OptionsOf(const std::vector<std::string>& arguments) {
   options.storing = {LanguageOf(parser.value(language)).value_or(exchange::Language::found),
                      parser.isSet(lenient)};
   options.latin = parser.value(script) == u"latin";
-  options.division.installments =
-      parser.isSet(installments) ? parser.value(installments).toInt() : 1;
   if (parser.isSet(installments))
-    options.division.join = parser.isSet(beside) ? join::side_by_side : join::one_under_the_other;
+    options.division = {parser.value(installments).toInt(),
+                        parser.isSet(beside) ? join::side_by_side : join::one_under_the_other};
   options.media = parser.value(media).toStdString();
   options.force = parser.isSet(force);
   options.check = parser.isSet(check);

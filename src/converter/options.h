@@ -13,8 +13,9 @@ namespace kalvon::converter {
 /// What the command line asks for.
 struct Options {
   exchange::Storing storing;
-  bool latin = true;               ///< The script of Serbian texts in other formats and pictures.
-  exchange::Division division;     ///< Of a crossword of this program.
+  bool latin = true;  ///< The script of Serbian texts in other formats and pictures.
+  std::optional<exchange::Division>
+      division;                    ///< Of a crossword of this program; none: as its source asks.
   std::string media;               ///< Folder of the media, empty for none.
   bool force = false;              ///< Whether existing files may be replaced.
   bool check = false;              ///< Whether the files are looked at alone.

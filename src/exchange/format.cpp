@@ -4,10 +4,16 @@
 #include <algorithm>
 #include <vector>
 
+#include "exchange/puz.h"
+#include "exchange/xd.h"
+
 namespace kalvon::exchange {
 namespace {
 
-const std::vector<Format> formats = {};
+const std::vector<Format> formats = {
+    {.ending = "puz", .fits = IsPuz, .read = ReadPuz, .write = WritePuz},
+    {.ending = "xd", .fits = IsXd, .read = ReadXd, .write = WriteXd},
+};
 
 template <typename Test>
 const Format* Find(Test test) {

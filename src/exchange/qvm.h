@@ -10,12 +10,6 @@
 
 namespace kalvon::exchange {
 
-/// How a crossword is divided into installments.
-struct Division {
-  int installments = 1;
-  int join = join::none;  ///< One of `join`; none for one installment.
-};
-
 /// Reads the crossword of a file, its installments joined, as ReadCrossword, with its errors. The
 /// path is one of the logic. A language that is not told is found by the words of the head.
 HeadedCrossword ReadQvm(const std::string& path, Language language);

@@ -17,6 +17,9 @@ enum class Matter {
   unwritable,      ///< The same.
   unknown_format,  ///< The content is of no format that is known.
   damaged,         ///< The file breaks the rules of its format; the detail says where or how.
+  ends_early,      ///< The file ends before all of its parts have come.
+  damaged_line,    ///< A line breaks the rules of the format; the detail is its number and text.
+  no_section,      ///< A part of the file is missing; the detail names it.
   too_long,        ///< The file, or something in it, is larger than any crossword.
   scrambled,       ///< Its solution is locked.
   other_kind,      ///< It is a puzzle of another kind; the detail names it.
@@ -39,9 +42,10 @@ enum class Matter {
   cell_form,         ///< A cell string that breaks its form.
   start_on_block,
   clue_not_closed,
-  medium_refused,     ///< The program writes no file of this name or size, or the table lacks it.
-  medium_cut,         ///< The pack ends before its end.
-  medium_unplayable,  ///< It is not what its name says.
+  medium_refused,      ///< The program writes no file of this name or size, or the table lacks it.
+  medium_cut,          ///< The pack ends before its end.
+  medium_unplayable,   ///< It is not what its name says.
+  too_large_to_write,  ///< The format has no room for the grid; the detail is its longest side.
   // Remarks.
   wrong_checksum,
   accent_taken_off,  ///< From the letter of a cell.
@@ -54,6 +58,7 @@ enum class Matter {
   numbers_differ,     ///< The detail is the number in the file and ours.
   clue_without_word,  ///< The detail is the clue.
   word_without_clue,
+  answer_differs,     ///< From the letters in the grid; the detail is the clue's number and answer.
   text_approximated,  ///< A character of a text was replaced by a similar one.
   text_lost,          ///< By "?".
   dollar_replaced,
@@ -67,6 +72,7 @@ enum class Matter {
   unused_medium,       ///< The detail is its name.
   entry_lost,          ///< A letter that the user wrote is none of the alphabet.
   entries_dropped,     ///< The format has no place for the letters of the user.
+  holes_filled,        ///< The format knows no holes; they became blocks.
   blanks_dropped,      ///< The format has no place for the blanks of answers.
   texts_dropped,       ///< The format has no place for something; the detail names it.
 };

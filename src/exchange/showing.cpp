@@ -85,6 +85,10 @@ Puzzle Shown(const HeadedCrossword& headed, bool latin) {
   puzzle.author = headed.head.author;
   puzzle.copyright = headed.head.copyright;
   puzzle.description = headed.head.description;
+  if (crossword.nast_zadnji > 1) {
+    puzzle.installments = crossword.nast_zadnji;
+    puzzle.join = crossword.nast_smer;
+  }
   puzzle.language = headed.english ? "en" : "sr";
   for (int y = 1; y <= puzzle.height; ++y)
     for (int x = 1; x <= puzzle.width; ++x)

@@ -70,7 +70,8 @@ class Storage {
     return {std::move(crossword_),
             {puzzle_.title, puzzle_.author, puzzle_.copyright, puzzle_.description},
             {},
-            english_};
+            english_,
+            {puzzle_.installments, puzzle_.join}};
   }
 
  private:

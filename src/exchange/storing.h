@@ -20,12 +20,19 @@ struct Head {
   bool operator==(const Head&) const = default;
 };
 
+/// How a crossword is divided into installments.
+struct Division {
+  int installments = 1;
+  int join = join::none;  ///< One of `join`; none for one installment.
+};
+
 /// A crossword with what this program's format keeps beside the value.
 struct HeadedCrossword {
   Crossword crossword = {};  ///< In one piece, whatever installments it came from.
   Head head = {};
   std::map<std::string, std::string> media = {};  ///< Bytes of the files that its clues name.
   bool english = false;                           ///< Its language, English or Serbian.
+  Division division = {};                         ///< That its source asks for.
 };
 
 enum class Language {
