@@ -12,6 +12,7 @@ targets=("${@:2}")
 ((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture settings)
 corpus=build/fuzz/corpus
 found=build/fuzz/found
+samples=build/release/made_samples
 
 # Joins files into one input that stands for all of them.
 join() {
@@ -33,12 +34,12 @@ make_seeds() {
   local target
   for target in "${targets[@]}"; do mkdir -p "$corpus/$target" "$found/$target"; done
   mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,settings}
-  cp samples/*.qvm "$corpus/crossword_file"
-  join samples/zima100[123].qvm >"$corpus/installments/zima"
-  join samples/leto1001.qvm samples/proba.qvm samples/leto1003.qvm >"$corpus/installments/leto"
+  cp "$samples"/*.qvm "$corpus/crossword_file"
+  join "$samples"/zima100[123].qvm >"$corpus/installments/zima"
+  join "$samples"/{leto1001,proba,leto1003}.qvm >"$corpus/installments/leto"
   local name
-  for name in $(head -n 1 samples/zima1001.qvm | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
-    pack_input "$name" samples/zima1001 >"$corpus/media_pack/$name"
+  for name in $(head -n 1 "$samples/zima1001.qvm" | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
+    pack_input "$name" "$samples/zima1001" >"$corpus/media_pack/$name"
   done
   cp src/shell/forms/pictures/*.bmp tests/data/bitmaps/*.bmp "$corpus/picture"
   printf 'Vostrand Kalvon Multimedia\r\nStaza:c:\\home\r\nPismo:Latinica\r\nTastatura:Unikod\r\n' \
