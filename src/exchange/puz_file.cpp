@@ -18,12 +18,9 @@ constexpr std::size_t longest_preamble = 1024;
 // Where the fields of the header stand. Numbers have two bytes, the lower one first.
 constexpr std::size_t checksum_at = 0x00;
 constexpr std::size_t mark_at = 0x02;
-constexpr std::size_t size_checksum_at = 0x0E;
-constexpr std::size_t masked_at = 0x10;
 constexpr std::size_t version_at = 0x18;
 constexpr std::size_t version_length = 4;
 constexpr std::size_t size_at = 0x2C;
-constexpr std::size_t size_length = 8;
 constexpr std::size_t header_length = 0x34;
 
 constexpr std::string_view mask = "ICHEATED";

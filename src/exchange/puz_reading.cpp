@@ -108,22 +108,25 @@ void ReadState(const PuzFile& file, Puzzle& puzzle) {
   }
 }
 
-/// The clues stand in the order of the numbers, that across before that down.
+/// The clues stand in the order of the numbers, that across before that down. An empty one keeps
+/// the place of a word that has none.
 void ReadClues(const PuzFile& file, Puzzle& puzzle, Remarks& remarks) {
-  const auto clue_text = [&](std::size_t i) { return Tidied(file.texts[i], file.IsUnicode()); };
   const std::size_t end = file.texts.size() - 1;
   std::size_t next = PuzFile::texts_before_clues;
   for (const WordStart& start : WordStarts(puzzle)) {
     for (const int word : {direction::across, direction::down}) {
       if (!BelongsTo(start.kind, word) || next == end) continue;
+      const std::string text = Tidied(file.texts[next++], file.IsUnicode());
+      if (text.empty()) continue;
       puzzle.clues.push_back({.direction = word,
                               .cell = start.cell,
                               .number = std::to_string(start.number),
-                              .text = clue_text(next++)});
+                              .text = text});
     }
   }
   std::ranges::stable_sort(puzzle.clues, {}, &PuzzleClue::direction);
-  for (; next < end; ++next) remarks.Add({Matter::clue_without_word, {}, clue_text(next)});
+  for (; next < end; ++next)
+    remarks.Add({Matter::clue_without_word, {}, Tidied(file.texts[next], file.IsUnicode())});
 }
 
 }  // namespace

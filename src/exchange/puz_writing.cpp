@@ -62,8 +62,7 @@ Board BoardOf(const Puzzle& puzzle, std::string PuzzleCell::*part) {
   Board board{.rebuses = std::vector<QString>(puzzle.cells.size())};
   for (std::size_t i = 0; i < puzzle.cells.size(); ++i) {
     const PuzzleCell& cell = puzzle.cells[i];
-    // What parts the texts of the file can be in none of them.
-    const QString text = Tidied(cell.*part).remove(u';').left(longest_rebus);
+    const QString text = Tidied(cell.*part).left(longest_rebus);
     if (cell.kind != CellKind::letter) {
       board.bytes += '.';
     } else if (text.isEmpty()) {
@@ -92,7 +91,8 @@ void AddRebuses(const Board& board, const Texts& texts, PuzFile& file, Remarks& 
     if (key > most_rebuses) key = 0;
     if (key > known.size()) {
       const QString number = QString::number(known.size()).rightJustified(2);
-      table += number.toStdString() + ':' + texts(text) + ';';
+      // A semicolon can only be what parts them.
+      table += number.toStdString() + ':' + texts(QString(text).remove(u';')) + ';';
       known.push_back(text);
     }
     cells += static_cast<char>(key);
