@@ -82,7 +82,8 @@ std::string Checksums(const PuzFile& file) {
 /// The place of the file in bytes that may have a preamble, npos for none.
 std::size_t Beginning(std::string_view bytes) {
   const std::size_t place = bytes.substr(0, longest_preamble + mark.size()).find(mark);
-  return place == bytes.npos || place < mark_at ? bytes.npos : place - mark_at;
+  return place == std::string_view::npos || place < mark_at ? std::string_view::npos
+                                                            : place - mark_at;
 }
 
 /// Takes a text with its NUL off the bytes. A last one may lack it.
@@ -112,7 +113,7 @@ void TakeSections(std::string_view bytes, PuzFile& file, Remarks& remarks, bool&
 
 }  // namespace
 
-bool IsPuz(std::string_view bytes) { return Beginning(bytes) != bytes.npos; }
+bool IsPuz(std::string_view bytes) { return Beginning(bytes) != std::string_view::npos; }
 
 PuzFile ParsePuz(std::string_view bytes, Remarks& remarks) {
   if (!IsPuz(bytes)) throw ConversionError(Matter::unknown_format);

@@ -59,7 +59,8 @@ std::map<int, std::string> RebusTable(const PuzFile& file) {
   const auto section = file.sections.find("RTBL");
   if (section == file.sections.end()) return table;
   std::string_view rest = section->second;
-  for (std::size_t end = 0; (end = rest.find(';')) != rest.npos; rest.remove_prefix(end + 1)) {
+  for (std::size_t end = 0; (end = rest.find(';')) != std::string_view::npos;
+       rest.remove_prefix(end + 1)) {
     std::string_view entry = rest.substr(0, end);
     entry.remove_prefix(std::min(entry.find_first_not_of(' '), entry.size()));
     int key = 0;

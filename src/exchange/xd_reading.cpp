@@ -22,7 +22,7 @@ constexpr std::size_t looked_at = std::size_t{1} << 20;
 
 struct TextHeader {
   QStringView name;
-  std::string Puzzle::*text;
+  std::string Puzzle::*text = nullptr;
 };
 constexpr TextHeader text_headers[] = {{u"title", &Puzzle::title},
                                        {u"author", &Puzzle::author},
@@ -136,7 +136,7 @@ void RemarkOtherSections(const XdSections& sections, Remarks& remarks) {
 
 bool IsXd(std::string_view bytes) {
   bytes = bytes.substr(0, looked_at);
-  if (bytes.find('\0') != bytes.npos) return false;
+  if (bytes.find('\0') != std::string_view::npos) return false;
   const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
   constexpr auto options =
       QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption;

@@ -69,10 +69,7 @@ XdSections ByBlankLines(const std::vector<RawLine>& lines) {
   std::size_t place = 0;
   for (const auto& [line, blank] : lines) {
     const bool starts = blank >= 2 && sections.contains(names[0]);
-    if (starts && place < 2)
-      ++place;
-    else if (starts && place == 2 && !ClueLineOf(line))
-      ++place;
+    if (starts && (place < 2 || (place == 2 && !ClueLineOf(line)))) ++place;
     sections[names[place]].push_back(line);
   }
   return sections;

@@ -96,9 +96,9 @@ class ClueWriter {
       direction = clue.direction;
       lines += LinesOf(clue);
     }
-    const auto count = [](const PuzzleCell& cell) { return cell.blank_right + cell.blank_below; };
     int blanks = 0;
-    for (const PuzzleCell& cell : puzzle_.cells) blanks += count(cell);
+    for (const PuzzleCell& cell : puzzle_.cells)
+      blanks += (cell.blank_right ? 1 : 0) + (cell.blank_below ? 1 : 0);
     if (blanks > blanks_written_) remarks_.Count(Matter::blanks_dropped);
     return lines;
   }

@@ -65,7 +65,7 @@ inline Puzzle RandomPuzzle(std::mt19937& random, bool with_all) {
                                             "X", "QU", "ß", "4",  "?",  ".",  "-",   "/", "O/A",
                                             "|", "A-", "a", "Š'", "~",  "::", "***", "*"};
   const std::vector<std::string> texts = {
-      "Slon",  "Слон у „соби”", "a < b & c", "{/x/} \\ {\\~\\}", "2 ~ 3 ~ ČETIRI", "{~", "",
+      "Slon",  "Слон у „соби”", "a < b & c", R"({/x/} \ {\~\})", "2 ~ 3 ~ ČETIRI", "{~", "",
       "A1. x", "|{@|@}",        "– …",       "^Media: x"};
   const auto letter = [&] { return letters[static_cast<std::size_t>(below(with_all ? 26 : 9))]; };
   const auto text = [&] { return texts[static_cast<std::size_t>(below(11))]; };
