@@ -14,6 +14,7 @@ using namespace std::string_view_literals;
 constexpr std::string_view mark = "ACROSS&DOWN\0"sv;
 /// Some publishers put lines of their own before the file.
 constexpr std::size_t longest_preamble = 1024;
+constexpr std::size_t longest_text = std::size_t{1} << 20;
 
 // Where the fields of the header stand. Numbers have two bytes, the lower one first.
 constexpr std::size_t checksum_at = 0x00;
@@ -89,6 +90,7 @@ std::size_t Beginning(std::string_view bytes) {
 /// Takes a text with its NUL off the bytes. A last one may lack it.
 std::string TakeText(std::string_view& bytes) {
   const std::string_view text = bytes.substr(0, bytes.find('\0'));
+  if (text.size() > longest_text) throw ConversionError(Matter::too_long);
   bytes.remove_prefix(std::min(text.size() + 1, bytes.size()));
   return std::string(text);
 }

@@ -66,6 +66,8 @@ std::map<int, std::string> RebusTable(const PuzFile& file) {
     int key = 0;
     const auto number = std::from_chars(entry.data(), entry.data() + entry.size(), key);
     entry.remove_prefix(static_cast<std::size_t>(number.ptr - entry.data()));
+    constexpr std::size_t most_bytes = std::size_t{4} * longest_cell;
+    if (entry.size() > most_bytes) throw ConversionError(Matter::too_long);
     if (number.ec == std::errc{} && entry.starts_with(':'))
       table.emplace(key, Tidied(entry.substr(1), file.IsUnicode()));
   }
@@ -127,7 +129,8 @@ void ReadClues(const PuzFile& file, Puzzle& puzzle, Remarks& remarks) {
   }
   std::ranges::stable_sort(puzzle.clues, {}, &PuzzleClue::direction);
   for (; next < end; ++next)
-    remarks.Add({Matter::clue_without_word, {}, Tidied(file.texts[next], file.IsUnicode())});
+    if (const std::string text = Tidied(file.texts[next], file.IsUnicode()); !text.empty())
+      remarks.Add({Matter::clue_without_word, {}, text});
 }
 
 }  // namespace

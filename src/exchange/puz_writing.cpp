@@ -14,7 +14,6 @@ namespace {
 constexpr int longest_side = 255;
 constexpr std::size_t longest_section = 0xFFFF;
 constexpr std::size_t most_rebuses = 99;
-constexpr qsizetype longest_rebus = 100;
 constexpr char16_t latin1_end = 0x100;
 
 QString Tidied(const std::string& text) { return Tidy(QString::fromStdString(text)); }
@@ -62,7 +61,7 @@ Board BoardOf(const Puzzle& puzzle, std::string PuzzleCell::*part) {
   Board board{.rebuses = std::vector<QString>(puzzle.cells.size())};
   for (std::size_t i = 0; i < puzzle.cells.size(); ++i) {
     const PuzzleCell& cell = puzzle.cells[i];
-    const QString text = Tidied(cell.*part).left(longest_rebus);
+    const QString text = Tidied(cell.*part).left(longest_cell);
     if (cell.kind != CellKind::letter) {
       board.bytes += '.';
     } else if (text.isEmpty()) {

@@ -8,6 +8,8 @@
 #include <iterator>
 #include <set>
 
+#include "exchange/format.h"
+
 namespace kalvon::exchange {
 namespace {
 
@@ -69,6 +71,7 @@ XdRebus RebusOf(QStringView value) {
     const QString cell = entry.mid(entry.indexOf(u'=', 1) + 1);
     QString& known = rebus[characters[0]];
     known += known.isEmpty() ? cell : u'/' + cell;
+    if (known.size() > longest_cell) throw ConversionError(Matter::too_long);
   }
   return rebus;
 }

@@ -15,7 +15,10 @@ namespace {
 
 /// The text of a cell as the grid and the header can have it.
 QString CellText(const std::string& text) {
-  return Tidy(QString::fromStdString(text)).remove(u' ').normalized(QString::NormalizationForm_C);
+  return Tidy(QString::fromStdString(text))
+      .remove(u' ')
+      .normalized(QString::NormalizationForm_C)
+      .left(longest_cell);
 }
 
 /// Whether a text is one character that means itself.
