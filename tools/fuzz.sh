@@ -9,7 +9,7 @@ source tools/packages.sh
 
 seconds=${1:?"the seconds for each target are missing"}
 targets=("${@:2}")
-((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture settings)
+((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture puz settings xd)
 corpus=build/fuzz/corpus
 found=build/fuzz/found
 samples=build/release/made_samples
@@ -30,10 +30,23 @@ pack_input() {
   head -c 20000 "$2.qvd"
 }
 
+# A crossword of three by three cells: the header, the grids, the texts, and a rebus.
+puz_input() {
+  printf '\0\0ACROSS&DOWN\0%10s2.0\0%16s\3\3\4\0\1\0\0\0' '' ''
+  printf 'CATA.ORUN----.----title\0author\0\0one\0two\0three\0four\0note\0'
+  printf 'GRBS\11\0\0\0\1\0\0\0\0\0\0\0\0\0RTBL\6\0\0\0 0:LJ;\0RUSR\13\0\0\0LJ\0\0\0\0\0\0\0\0\0\0'
+}
+
+xd_input() {
+  printf '## Metadata\nTitle: x\nRebus: 1=LJ\nInstallments: 3 beside\nEntries: C.. .#. 1..\n'
+  printf '## Grid\nCA1\nA#_\nR?N\n## Clues\nA1. {/x/} {@y|z@} {\\~\\} ~ CA LJ\nA1 ^Media: s.png\nD1. x // y\n'
+  printf '## Design\nO { background: circle }\nO..\n## Start\nC..\n.#.\n...\n## Notes\nx\n'
+}
+
 make_seeds() {
   local target
   for target in "${targets[@]}"; do mkdir -p "$corpus/$target" "$found/$target"; done
-  mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,settings}
+  mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,puz,settings,xd}
   cp "$samples"/*.qvm "$corpus/crossword_file"
   join "$samples"/zima100[123].qvm >"$corpus/installments/zima"
   join "$samples"/{leto1001,proba,leto1003}.qvm >"$corpus/installments/leto"
@@ -42,6 +55,9 @@ make_seeds() {
     pack_input "$name" "$samples/zima1001" >"$corpus/media_pack/$name"
   done
   cp src/shell/forms/pictures/*.bmp tests/data/bitmaps/*.bmp "$corpus/picture"
+  puz_input >"$corpus/puz/seed"
+  xd_input >"$corpus/xd/seed"
+  printf 'Title: x\n\n\nCAT\nA.O\n\n\nA1. x ~ CAT ~ COT\n1. y\n\n\nnotes' >"$corpus/xd/plain"
   printf 'Vostrand Kalvon Multimedia\r\nStaza:c:\\home\r\nPismo:Latinica\r\nTastatura:Unikod\r\n' \
     >"$corpus/settings/settings"
 }

@@ -14,16 +14,14 @@ using namespace std::string_view_literals;
 constexpr std::string_view mark = "ACROSS&DOWN\0"sv;
 /// Some publishers put lines of their own before the file.
 constexpr std::size_t longest_preamble = 1024;
+constexpr std::size_t longest_text = std::size_t{1} << 20;
 
 // Where the fields of the header stand. Numbers have two bytes, the lower one first.
 constexpr std::size_t checksum_at = 0x00;
 constexpr std::size_t mark_at = 0x02;
-constexpr std::size_t size_checksum_at = 0x0E;
-constexpr std::size_t masked_at = 0x10;
 constexpr std::size_t version_at = 0x18;
 constexpr std::size_t version_length = 4;
 constexpr std::size_t size_at = 0x2C;
-constexpr std::size_t size_length = 8;
 constexpr std::size_t header_length = 0x34;
 
 constexpr std::string_view mask = "ICHEATED";
@@ -85,12 +83,14 @@ std::string Checksums(const PuzFile& file) {
 /// The place of the file in bytes that may have a preamble, npos for none.
 std::size_t Beginning(std::string_view bytes) {
   const std::size_t place = bytes.substr(0, longest_preamble + mark.size()).find(mark);
-  return place == bytes.npos || place < mark_at ? bytes.npos : place - mark_at;
+  return place == std::string_view::npos || place < mark_at ? std::string_view::npos
+                                                            : place - mark_at;
 }
 
 /// Takes a text with its NUL off the bytes. A last one may lack it.
 std::string TakeText(std::string_view& bytes) {
   const std::string_view text = bytes.substr(0, bytes.find('\0'));
+  if (text.size() > longest_text) throw ConversionError(Matter::too_long);
   bytes.remove_prefix(std::min(text.size() + 1, bytes.size()));
   return std::string(text);
 }
@@ -115,7 +115,7 @@ void TakeSections(std::string_view bytes, PuzFile& file, Remarks& remarks, bool&
 
 }  // namespace
 
-bool IsPuz(std::string_view bytes) { return Beginning(bytes) != bytes.npos; }
+bool IsPuz(std::string_view bytes) { return Beginning(bytes) != std::string_view::npos; }
 
 PuzFile ParsePuz(std::string_view bytes, Remarks& remarks) {
   if (!IsPuz(bytes)) throw ConversionError(Matter::unknown_format);

@@ -37,7 +37,8 @@ struct PuzFile {
 };
 
 /// Takes a file apart. Remarks for a wrong checksum, and for a section that does not fit. Error
-/// `ends_early` for a file that lacks cells or clues, `unknown_format` for one without the mark.
+/// `ends_early` for a file that lacks cells or clues, `unknown_format` for one without the mark,
+/// `too_long` for a text of more than 1 MiB.
 PuzFile ParsePuz(std::string_view bytes, Remarks& remarks);
 
 /// The bytes of a file, with its checksums. Precondition: sides up to 255, sections up to 65535

@@ -59,12 +59,15 @@ std::map<int, std::string> RebusTable(const PuzFile& file) {
   const auto section = file.sections.find("RTBL");
   if (section == file.sections.end()) return table;
   std::string_view rest = section->second;
-  for (std::size_t end = 0; (end = rest.find(';')) != rest.npos; rest.remove_prefix(end + 1)) {
+  for (std::size_t end = 0; (end = rest.find(';')) != std::string_view::npos;
+       rest.remove_prefix(end + 1)) {
     std::string_view entry = rest.substr(0, end);
     entry.remove_prefix(std::min(entry.find_first_not_of(' '), entry.size()));
     int key = 0;
     const auto number = std::from_chars(entry.data(), entry.data() + entry.size(), key);
     entry.remove_prefix(static_cast<std::size_t>(number.ptr - entry.data()));
+    constexpr std::size_t most_bytes = std::size_t{4} * longest_cell;
+    if (entry.size() > most_bytes) throw ConversionError(Matter::too_long);
     if (number.ec == std::errc{} && entry.starts_with(':'))
       table.emplace(key, Tidied(entry.substr(1), file.IsUnicode()));
   }
@@ -108,22 +111,26 @@ void ReadState(const PuzFile& file, Puzzle& puzzle) {
   }
 }
 
-/// The clues stand in the order of the numbers, that across before that down.
+/// The clues stand in the order of the numbers, that across before that down. An empty one keeps
+/// the place of a word that has none.
 void ReadClues(const PuzFile& file, Puzzle& puzzle, Remarks& remarks) {
-  const auto clue_text = [&](std::size_t i) { return Tidied(file.texts[i], file.IsUnicode()); };
   const std::size_t end = file.texts.size() - 1;
   std::size_t next = PuzFile::texts_before_clues;
   for (const WordStart& start : WordStarts(puzzle)) {
     for (const int word : {direction::across, direction::down}) {
       if (!BelongsTo(start.kind, word) || next == end) continue;
+      const std::string text = Tidied(file.texts[next++], file.IsUnicode());
+      if (text.empty()) continue;
       puzzle.clues.push_back({.direction = word,
                               .cell = start.cell,
                               .number = std::to_string(start.number),
-                              .text = clue_text(next++)});
+                              .text = text});
     }
   }
   std::ranges::stable_sort(puzzle.clues, {}, &PuzzleClue::direction);
-  for (; next < end; ++next) remarks.Add({Matter::clue_without_word, {}, clue_text(next)});
+  for (; next < end; ++next)
+    if (const std::string text = Tidied(file.texts[next], file.IsUnicode()); !text.empty())
+      remarks.Add({Matter::clue_without_word, {}, text});
 }
 
 }  // namespace

@@ -14,7 +14,6 @@ namespace {
 constexpr int longest_side = 255;
 constexpr std::size_t longest_section = 0xFFFF;
 constexpr std::size_t most_rebuses = 99;
-constexpr qsizetype longest_rebus = 100;
 constexpr char16_t latin1_end = 0x100;
 
 QString Tidied(const std::string& text) { return Tidy(QString::fromStdString(text)); }
@@ -62,8 +61,7 @@ Board BoardOf(const Puzzle& puzzle, std::string PuzzleCell::*part) {
   Board board{.rebuses = std::vector<QString>(puzzle.cells.size())};
   for (std::size_t i = 0; i < puzzle.cells.size(); ++i) {
     const PuzzleCell& cell = puzzle.cells[i];
-    // What parts the texts of the file can be in none of them.
-    const QString text = Tidied(cell.*part).remove(u';').left(longest_rebus);
+    const QString text = Tidied(cell.*part).left(longest_cell);
     if (cell.kind != CellKind::letter) {
       board.bytes += '.';
     } else if (text.isEmpty()) {
@@ -92,7 +90,8 @@ void AddRebuses(const Board& board, const Texts& texts, PuzFile& file, Remarks& 
     if (key > most_rebuses) key = 0;
     if (key > known.size()) {
       const QString number = QString::number(known.size()).rightJustified(2);
-      table += number.toStdString() + ':' + texts(text) + ';';
+      // A semicolon can only be what parts them.
+      table += number.toStdString() + ':' + texts(QString(text).remove(u';')) + ';';
       known.push_back(text);
     }
     cells += static_cast<char>(key);

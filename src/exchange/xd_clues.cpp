@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "crossword/direction.h"
+#include "exchange/markup.h"
 #include "exchange/xd_clue_line.h"
 #include "exchange/xd_grid.h"
 #include "exchange/xd_markup.h"
@@ -135,6 +136,7 @@ class ClueReader {
     PuzzleClue read{.direction = clue.group == u'D' ? direction::down : direction::across,
                     .number = clue.number.toString().toStdString(),
                     .text = WithoutXdMarkup(answered.text).toStdString()};
+    if (kind != 0) read.number = std::to_string(start->first);
     if (clue.group.isNull() && kind != 0) {
       // One clue for both words of a cell.
       for (const int word : {direction::across, direction::down}) {
@@ -169,7 +171,7 @@ class ClueReader {
     const QString key = clue.key.toString().toLower();
     if (owner == read_.end()) return Drop(line);
     if (key == QStringLiteral("media"))
-      puzzle_.clues[owner->second].medium = clue.rest.toString().toStdString();
+      puzzle_.clues[owner->second].medium = Tidy(clue.rest.toString()).toStdString();
     else if (key != QStringLiteral("refs"))
       ++keys_[key];
   }

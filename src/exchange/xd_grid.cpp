@@ -2,10 +2,13 @@
 #include "exchange/xd_grid.h"
 
 #include <QList>
+#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
 #include <set>
+
+#include "exchange/format.h"
 
 namespace kalvon::exchange {
 namespace {
@@ -37,42 +40,23 @@ PuzzleCell CellOf(char32_t character, const XdRebus& rebus, bool dot_is_block) {
 
 /// The rules of a design: the properties of each character, and what follows the last rule.
 struct Design {
-  std::map<QChar, QString> properties;
-  QString grid;
+  std::map<QChar, QString> properties = {};
+  QString grid = {};
 };
 
 Design DesignOf(const std::vector<XdLine>& lines) {
-  Design design;
-  QString selector;
-  QString body;
-  QChar quote;
-  bool in_body = false;
-  for (const XdLine& line : lines) {
-    if (line.text.contains(u"style>") && !in_body && line.text.startsWith(u'<') &&
-        !line.text.contains(u'{'))
-      continue;
-    for (const QChar c : line.text) {
-      if (!in_body) {
-        in_body = c == u'{';
-        if (!in_body) selector += c;
-      } else if (c == u'}' && quote.isNull()) {
-        for (const QString& name : selector.remove(QStringLiteral("<style>")).split(u','))
-          if (const QString key = name.trimmed(); !key.isEmpty())
-            design.properties[key.back()] += body;
-        selector.clear();
-        body.clear();
-        in_body = false;
-      } else {
-        if (c == quote)
-          quote = {};
-        else if (quote.isNull() && (c == u'\'' || c == u'"'))
-          quote = c;
-        // What is quoted is an address, and may be a whole picture.
-        if (quote.isNull()) body += c;
-      }
-    }
+  // What is quoted is an address, and may be a whole picture.
+  static const QRegularExpression unread(QStringLiteral("'[^']*'|\"[^\"]*\"|</?style>"));
+  QString text;
+  for (const XdLine& line : lines) text += line.text.toString() + u'\n';
+  QStringList rules = text.remove(unread).split(u'}');
+  Design design{.grid = rules.takeLast()};
+  for (const QString& rule : rules) {
+    const qsizetype body = rule.indexOf(u'{');
+    for (const QString& name : rule.left(body).split(u','))
+      if (const QString key = name.trimmed(); !key.isEmpty())
+        design.properties[key.back()] += rule.mid(body + 1);
   }
-  design.grid = selector.remove(QStringLiteral("</style>"));
   return design;
 }
 
@@ -87,6 +71,7 @@ XdRebus RebusOf(QStringView value) {
     const QString cell = entry.mid(entry.indexOf(u'=', 1) + 1);
     QString& known = rebus[characters[0]];
     known += known.isEmpty() ? cell : u'/' + cell;
+    if (known.size() > longest_cell) throw ConversionError(Matter::too_long);
   }
   return rebus;
 }
@@ -140,7 +125,7 @@ bool ReadXdEntries(const std::vector<QStringView>& rows, const XdRebus& rebus, P
 void ReadXdDesign(const std::vector<XdLine>& lines, Remarks& remarks) {
   struct Drawing {
     QStringView property;
-    Matter matter;
+    Matter matter{};
   };
   constexpr Drawing drawings[] = {{u"image", Matter::pictures_dropped},
                                   {u"circle", Matter::circles_dropped},

@@ -13,6 +13,7 @@ namespace kalvon::exchange {
 using XdRebus = std::map<char32_t, QString>;
 
 /// The value of the header: "1=LJ 2=NJ". Two texts of one character are parted by a slash.
+/// Error `too_long` for one beyond `longest_cell`.
 XdRebus RebusOf(QStringView value);
 
 /// The texts of a cell, any of which is right.

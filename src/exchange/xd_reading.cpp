@@ -22,7 +22,7 @@ constexpr std::size_t looked_at = std::size_t{1} << 20;
 
 struct TextHeader {
   QStringView name;
-  std::string Puzzle::*text;
+  std::string Puzzle::*text = nullptr;
 };
 constexpr TextHeader text_headers[] = {{u"title", &Puzzle::title},
                                        {u"author", &Puzzle::author},
@@ -49,6 +49,10 @@ QString UnicodeOf(std::string_view bytes) {
     throw ConversionError(Matter::damaged_line, std::to_string(line) + ": UTF-8");
   }
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  const auto is_control = [](QChar c) {
+    return c.category() == QChar::Other_Control && c != u'\n' && c != u'\t';
+  };
+  text.removeIf(is_control);
   return text;
 }
 
@@ -63,7 +67,7 @@ Headers HeadersOf(const std::vector<XdLine>& lines, Remarks& remarks) {
     const bool is_known =
         std::ranges::find(text_headers, key, &TextHeader::name) != std::end(text_headers) ||
         std::ranges::find(ruling_headers, key) != std::end(ruling_headers);
-    if (is_known && headers.try_emplace(key, line, value).second) continue;
+    if (is_known && headers.emplace(key, Header{line, value}).second) continue;
     const bool says_nothing = value.isEmpty() || value == QStringLiteral("Not set");
     if (!says_nothing)
       remarks.Count(Matter::texts_dropped, (colon < 0 ? value : name).toStdString());
@@ -101,6 +105,7 @@ void ReadInstallments(const Headers& headers, Puzzle& puzzle) {
   const QRegularExpressionMatch match = form.match(header->second.value.toLower());
   if (!match.hasMatch()) RefuseLine(header->second.line);
   puzzle.installments = match.captured(1).toInt();
+  if (puzzle.installments == 1) return;
   puzzle.join =
       match.captured(2) == QStringLiteral("below") ? join::one_under_the_other : join::side_by_side;
 }
@@ -131,15 +136,17 @@ void RemarkOtherSections(const XdSections& sections, Remarks& remarks) {
 
 bool IsXd(std::string_view bytes) {
   bytes = bytes.substr(0, looked_at);
-  if (bytes.find('\0') != bytes.npos) return false;
+  if (bytes.find('\0') != std::string_view::npos) return false;
   const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  static const QRegularExpression head(
-      QStringLiteral("^\\x{FEFF}?[ \\t]*(## *(metadata|grid|clues)|"
-                     "(title|author|editor|copyright|date|rebus|language)[ \\t]*:)"),
-      QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption);
-  static const QRegularExpression clue(QStringLiteral("^[ \\t]*[A-Z]?[0-9]+\\."),
-                                       QRegularExpression::MultilineOption);
-  return text.contains(head) && text.contains(clue);
+  constexpr auto options =
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption;
+  static const QRegularExpression heading(QStringLiteral("^[ \\t]*##[ \\t]+grid[ \\t\\r]*$"),
+                                          options);
+  static const QRegularExpression header(
+      QStringLiteral("^[ \\t]*(title|author|editor|copyright|date|rebus|language)[ \\t]*:"),
+      options);
+  static const QRegularExpression clue(QStringLiteral("^[ \\t]*[A-Z]?[0-9]+\\."), options);
+  return text.contains(heading) || (text.contains(header) && text.contains(clue));
 }
 
 Puzzle ReadXd(std::string_view bytes, Remarks& remarks) {

@@ -11,6 +11,9 @@ namespace {
 constexpr QStringView comment_start = u"<!--";
 constexpr QStringView comment_end = u"-->";
 constexpr int shown_of_a_line = 60;
+/// More than any grid has rows and clues, and more sections than anybody writes.
+constexpr std::size_t most_lines = 200000;
+constexpr std::size_t most_sections = 100;
 
 /// A line, blank ones too, and how many blank ones stand before it.
 struct RawLine {
@@ -34,6 +37,7 @@ std::vector<RawLine> LinesOf(const QString& text) {
     } else if (line.isEmpty()) {
       ++blank;
     } else {
+      if (lines.size() == most_lines) throw ConversionError(Matter::too_long);
       lines.push_back({{number, line}, blank});
       blank = 0;
     }
@@ -57,6 +61,7 @@ XdSections ByHeadings(const std::vector<RawLine>& lines) {
       section->push_back(line);
     else
       section = &sections[heading];
+    if (sections.size() > most_sections) throw ConversionError(Matter::too_long);
   }
   return sections;
 }
@@ -69,10 +74,7 @@ XdSections ByBlankLines(const std::vector<RawLine>& lines) {
   std::size_t place = 0;
   for (const auto& [line, blank] : lines) {
     const bool starts = blank >= 2 && sections.contains(names[0]);
-    if (starts && place < 2)
-      ++place;
-    else if (starts && place == 2 && !ClueLineOf(line))
-      ++place;
+    if (starts && (place < 2 || (place == 2 && !ClueLineOf(line)))) ++place;
     sections[names[place]].push_back(line);
   }
   return sections;

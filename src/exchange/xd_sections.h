@@ -20,7 +20,8 @@ struct XdLine {
 using XdSections = std::map<QString, std::vector<XdLine>>;
 
 /// Divides a text at its headings ("## Grid"), or where it has none at two blank lines or more,
-/// into "metadata", "grid", "clues" and "notes". Comments are left out.
+/// into "metadata", "grid", "clues" and "notes". Comments are left out. Error
+/// `too_long` for more lines or sections than any crossword has.
 XdSections SectionsOfXd(const QString& text);
 
 /// Says that a line breaks the rules.

@@ -15,7 +15,10 @@ namespace {
 
 /// The text of a cell as the grid and the header can have it.
 QString CellText(const std::string& text) {
-  return Tidy(QString::fromStdString(text)).remove(u' ').normalized(QString::NormalizationForm_C);
+  return Tidy(QString::fromStdString(text))
+      .remove(u' ')
+      .normalized(QString::NormalizationForm_C)
+      .left(longest_cell);
 }
 
 /// Whether a text is one character that means itself.
@@ -96,9 +99,9 @@ class ClueWriter {
       direction = clue.direction;
       lines += LinesOf(clue);
     }
-    const auto count = [](const PuzzleCell& cell) { return cell.blank_right + cell.blank_below; };
     int blanks = 0;
-    for (const PuzzleCell& cell : puzzle_.cells) blanks += count(cell);
+    for (const PuzzleCell& cell : puzzle_.cells)
+      blanks += (cell.blank_right ? 1 : 0) + (cell.blank_below ? 1 : 0);
     if (blanks > blanks_written_) remarks_.Count(Matter::blanks_dropped);
     return lines;
   }

@@ -49,7 +49,7 @@ std::string Section(const std::string& name, const std::string& content) {
   return name + length + "\0\0\0"s + content + '\0';
 }
 
-Puzzle Read(const Bytes& bytes, std::vector<Matter> expected = {Matter::wrong_checksum}) {
+Puzzle Read(const Bytes& bytes, const std::vector<Matter>& expected = {Matter::wrong_checksum}) {
   Remarks remarks;
   Puzzle puzzle = ReadPuz(bytes.Make(), remarks);
   EXPECT_EQ(Matters(remarks), expected);
@@ -147,8 +147,8 @@ TEST(Puz, RefusesOtherFiles) {
       {"\0\0ACROSS&DOWN"s, Matter::unknown_format},
       {std::string(largest_file + 1, 'x'), Matter::too_long}};
   Remarks remarks;
-  for (const auto& [bytes, matter] : cases)
-    EXPECT_EQ(ErrorOf([&] { ReadPuz(bytes, remarks); }), matter) << bytes.substr(0, 80);
+  for (const auto& row : cases)
+    EXPECT_EQ(ErrorOf([&] { ReadPuz(row.first, remarks); }), row.second) << row.first.substr(0, 80);
   EXPECT_FALSE(IsPuz("ACROSS&DOWN\0"s));
   EXPECT_EQ(ErrorOf([&] { WritePuz(EmptyPuzzle(256, 2), remarks); }), Matter::too_large_to_write);
 }

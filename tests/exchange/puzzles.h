@@ -65,7 +65,7 @@ inline Puzzle RandomPuzzle(std::mt19937& random, bool with_all) {
                                             "X", "QU", "ß", "4",  "?",  ".",  "-",   "/", "O/A",
                                             "|", "A-", "a", "Š'", "~",  "::", "***", "*"};
   const std::vector<std::string> texts = {
-      "Slon",  "Слон у „соби”", "a < b & c", "{/x/} \\ {\\~\\}", "2 ~ 3 ~ ČETIRI", "{~", "",
+      "Slon",  "Слон у „соби”", "a < b & c", R"({/x/} \ {\~\})", "2 ~ 3 ~ ČETIRI", "{~", "",
       "A1. x", "|{@|@}",        "– …",       "^Media: x"};
   const auto letter = [&] { return letters[static_cast<std::size_t>(below(with_all ? 26 : 9))]; };
   const auto text = [&] { return texts[static_cast<std::size_t>(below(11))]; };
@@ -79,7 +79,7 @@ inline Puzzle RandomPuzzle(std::mt19937& random, bool with_all) {
   puzzle.cells[0] = {.solution = "A"};
   for (const int word : {direction::across, direction::down}) {
     for (const WordStart& start : WordStarts(puzzle)) {
-      if (!BelongsTo(start.kind, word) || (with_all && below(9) == 0)) continue;
+      if (!BelongsTo(start.kind, word) || below(9) == 0) continue;
       puzzle.clues.push_back({.direction = word,
                               .cell = start.cell,
                               .number = std::to_string(start.number),
@@ -87,6 +87,9 @@ inline Puzzle RandomPuzzle(std::mt19937& random, bool with_all) {
                               .medium = with_all && below(5) == 0 ? "slon.png" : ""});
     }
   }
+  // One of the formats takes an empty clue for none.
+  if (!with_all)
+    std::erase_if(puzzle.clues, [](const PuzzleClue& clue) { return clue.text.empty(); });
   puzzle.title = text();
   puzzle.author = text();
   puzzle.copyright = text();

@@ -85,15 +85,16 @@ TEST(Xd, TakesMarksOffTexts) {
        "see the* notes or old"},
       {"{!a whale | src: x; width: 1!}, {!https://x|alt|4!}, {!![http://x|b|1]!}",
        "a whale, alt, b"},
-      {"{#red|#f00|#c00#} {\\~\\}{\\\\}{\\{/\\} \\{\\} \\\\ a\\b", "red ~ {/ {} \\ a b"},
-      {"{/open {x} {\\ *} |", "{/open {x} { *} |"},
+      {R"({#red|#f00|#c00#} {\~\}{\\}{\{/\} \{\} \\ a\b)", R"(red ~ {/ {} \ a b)"},
+      {R"({/open {x} {\ *} |)", "{/open {x} { *} |"},
       {"A ~ B means to borrow", "A ~ B means to borrow"},
       {"", ""},
   };
   for (const auto& [marked, text] : cases) {
     for (const std::string answer : {" ~ CAT", ""}) {
       if (answer.empty() && marked.starts_with("A ~ B")) continue;
-      const Puzzle puzzle = Read(File("", "CAT", "A1. " + marked + answer));
+      const Puzzle puzzle =
+          Read(File("", "CAT", std::string("A1. ").append(marked).append(answer)));
       EXPECT_EQ(puzzle.clues[0].text, text);
     }
   }
@@ -159,7 +160,7 @@ TEST(Xd, SaysWhatADesignDraws) {
       {"..I", {Matter::pictures_dropped}},
   };
   for (const auto& [grid, remarks] : cases)
-    Read(File("", "CAT", "A1. x", "## Design\n\n" + style + '\n' + grid), remarks);
+    Read(File("", "CAT", "A1. x", std::string("## Design\n\n").append(style) + grid), remarks);
   Remarks remarks;
   const std::string barred = File("", "CAT", "A1. x", "## Design\n" + style + ".B.");
   EXPECT_EQ(ErrorOf([&] { ReadXd(barred, remarks); }), Matter::bars);
@@ -211,11 +212,10 @@ TEST(Xd, ReadsWhatItHasWritten) {
     const bool lost = !remarks.List().empty();
     EXPECT_TRUE(IsXd(text));
     Puzzle read = ReadXd(text, remarks);
-    if (lost)
-      for (std::size_t cell = 0; cell < read.cells.size(); ++cell) {
-        read.cells[cell].blank_right = puzzle.cells[cell].blank_right;
-        read.cells[cell].blank_below = puzzle.cells[cell].blank_below;
-      }
+    for (std::size_t cell = 0; lost && cell < read.cells.size(); ++cell) {
+      read.cells[cell].blank_right = puzzle.cells[cell].blank_right;
+      read.cells[cell].blank_below = puzzle.cells[cell].blank_below;
+    }
     EXPECT_EQ(Matters(remarks), std::vector(lost ? 1 : 0, Matter::blanks_dropped)) << text;
     EXPECT_EQ(read, puzzle) << text;
     if (HasFailure()) break;
