@@ -9,7 +9,8 @@ source tools/packages.sh
 
 seconds=${1:?"the seconds for each target are missing"}
 targets=("${@:2}")
-((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture settings)
+((${#targets[@]} > 0)) || 
+  targets=(crossword_file installments ipuz journal jpz media_pack picture settings)
 corpus=build/fuzz/corpus
 found=build/fuzz/found
 
@@ -32,7 +33,7 @@ pack_input() {
 make_seeds() {
   local target
   for target in "${targets[@]}"; do mkdir -p "$corpus/$target" "$found/$target"; done
-  mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,settings}
+  mkdir -p "$corpus"/{crossword_file,installments,ipuz,jpz,media_pack,picture,settings}
   cp samples/*.qvm "$corpus/crossword_file"
   join samples/zima100[123].qvm >"$corpus/installments/zima"
   join samples/leto1001.qvm samples/proba.qvm samples/leto1003.qvm >"$corpus/installments/leto"
@@ -40,6 +41,8 @@ make_seeds() {
   for name in $(head -n 1 samples/zima1001.qvm | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
     pack_input "$name" samples/zima1001 >"$corpus/media_pack/$name"
   done
+  cp tests/data/crosswords/*.ipuz "$corpus/ipuz"
+  cp tests/data/crosswords/*.jpz "$corpus/jpz"
   cp src/shell/forms/pictures/*.bmp tests/data/bitmaps/*.bmp "$corpus/picture"
   printf 'Vostrand Kalvon Multimedia\r\nStaza:c:\\home\r\nPismo:Latinica\r\nTastatura:Unikod\r\n' \
     >"$corpus/settings/settings"

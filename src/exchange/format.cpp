@@ -4,10 +4,16 @@
 #include <algorithm>
 #include <vector>
 
+#include "exchange/ipuz.h"
+#include "exchange/jpz.h"
+
 namespace kalvon::exchange {
 namespace {
 
-const std::vector<Format> formats = {};
+const std::vector<Format> formats = {
+    {.ending = "ipuz", .fits = IsIpuz, .read = ReadIpuz, .write = WriteIpuz},
+    {.ending = "jpz", .fits = IsJpz, .read = ReadJpz, .write = WriteJpz},
+};
 
 template <typename Test>
 const Format* Find(Test test) {
