@@ -21,7 +21,10 @@ constexpr GridCell Next(GridCell cell, int direction, int steps = 1) {
 }
 
 /// How a conversion speaks of a clue.
-std::string NameOf(const PuzzleClue& clue) { return clue.number.empty() ? clue.text : clue.number; }
+std::string NameOf(const PuzzleClue& clue) {
+  if (!clue.number.empty()) return clue.number;
+  return clue.text.empty() ? "?" : clue.text;
+}
 
 /// Whether cells are a whole word, from its first to its last one, in a direction.
 bool AreWord(const Puzzle& puzzle, const std::vector<GridCell>& cells, int direction) {
@@ -227,14 +230,11 @@ void RemarkLosses(const Puzzle& puzzle, Remarks& remarks) {
           remarks.Count(Matter::blanks_dropped);
 }
 
-std::vector<std::string> NumbersOf(const Puzzle& puzzle) {
-  Puzzle numbered = puzzle;
+Puzzle Numbered(Puzzle puzzle) {
   if (std::ranges::all_of(puzzle.cells, &std::string::empty, &PuzzleCell::number))
     for (const WordStart& start : WordStarts(puzzle))
-      numbered.At(start.cell).number = std::to_string(start.number);
-  std::vector<std::string> numbers;
-  for (PuzzleCell& cell : numbered.cells) numbers.push_back(std::move(cell.number));
-  return numbers;
+      puzzle.At(start.cell).number = std::to_string(start.number);
+  return puzzle;
 }
 
 }  // namespace kalvon::exchange

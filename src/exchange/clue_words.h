@@ -43,7 +43,7 @@ std::string EnumerationOf(const Puzzle& puzzle, const PuzzleClue& clue);
 /// Remarks what a file of clues and their words has no place for.
 void RemarkLosses(const Puzzle& puzzle, Remarks& remarks);
 
-/// The numbers of the cells, one for each: those of the puzzle, or the usual ones if it has none.
-std::vector<std::string> NumbersOf(const Puzzle& puzzle);
+/// The puzzle with the usual numbers, if it has none.
+Puzzle Numbered(Puzzle puzzle);
 
 }  // namespace kalvon::exchange

@@ -19,41 +19,48 @@ QJsonValue Number(const std::string& number) {
   return value > 0 && QString::number(value) == text ? QJsonValue(value) : QJsonValue(text);
 }
 
-/// The rows of a grid, each letter as `value_of` has it.
-template <typename ValueOf>
-QJsonArray Rows(const Puzzle& puzzle, ValueOf value_of) {
+/// A sign that no cell holds: the usual one, as often as it takes.
+std::string UnusedSign(const Puzzle& puzzle, char usual) {
+  std::string sign(1, usual);
+  const auto uses = [&](const PuzzleCell& cell) {
+    return cell.number == sign || cell.solution == sign || cell.entry == sign;
+  };
+  while (std::ranges::any_of(puzzle.cells, uses)) sign += usual;
+  return sign;
+}
+
+/// The signs of blocks and of cells without a number or letter.
+struct Signs {
+  QJsonValue block;
+  QJsonValue empty;
+};
+
+/// The rows of a grid with one of the texts of each letter.
+QJsonArray Rows(const Puzzle& puzzle, const Signs& signs, std::string PuzzleCell::*text) {
   QJsonArray rows;
   for (int y = 1; y <= puzzle.height; ++y) {
     QJsonArray row;
     for (int x = 1; x <= puzzle.width; ++x) {
-      switch (puzzle.At({x, y}).kind) {
-        case CellKind::letter:
-          row.append(
-              value_of(static_cast<std::size_t>(y - 1) * static_cast<std::size_t>(puzzle.width) +
-                       static_cast<std::size_t>(x - 1)));
-          break;
-        case CellKind::block:
-          row.append(QStringLiteral("#"));
-          break;
-        case CellKind::empty:
-          row.append(QJsonValue());
-          break;
-      }
+      const PuzzleCell& cell = puzzle.At({x, y});
+      const std::string& shown = cell.*text;
+      if (cell.kind == CellKind::empty)
+        row.append(QJsonValue());
+      else if (cell.kind == CellKind::block)
+        row.append(signs.block);
+      else if (shown.empty())
+        row.append(signs.empty);
+      else
+        row.append(text == &PuzzleCell::number ? Number(shown)
+                                               : QJsonValue(QString::fromStdString(shown)));
     }
     rows.append(row);
   }
   return rows;
 }
 
-/// A letter of the solution or of the user, the sign for empty for none.
-QJsonValue Letter(const std::string& letter) {
-  return letter.empty() ? QJsonValue(0) : QJsonValue(QString::fromStdString(letter));
-}
-
 /// Whether a reader that goes by the numbers finds the word of each clue.
-bool NumbersLead(const Puzzle& puzzle, const std::vector<std::string>& numbers) {
+bool NumbersLead(const Puzzle& puzzle) {
   Puzzle read = puzzle;
-  for (std::size_t i = 0; i < numbers.size(); ++i) read.cells[i].number = numbers[i];
   read.clues.clear();
   std::vector<ListedClue> clues;
   for (const PuzzleClue& clue : puzzle.clues) {
@@ -92,15 +99,19 @@ QJsonArray CluesOf(const Puzzle& puzzle, int direction, bool with_cells) {
 
 }  // namespace
 
-std::string WriteIpuz(const Puzzle& puzzle, Remarks& remarks) {
-  const std::vector<std::string> numbers = NumbersOf(puzzle);
+std::string WriteIpuz(const Puzzle& given, Remarks& remarks) {
+  const Puzzle puzzle = Numbered(given);
+  const std::string empty = UnusedSign(puzzle, '0');
+  const Signs signs = {.block = QString::fromStdString(UnusedSign(puzzle, '#')),
+                       .empty = empty == "0" ? QJsonValue(0) : QString::fromStdString(empty)};
   QJsonObject file = {
       {QStringLiteral("version"), QStringLiteral("http://ipuz.org/v2")},
       {QStringLiteral("kind"), QJsonArray{QStringLiteral("http://ipuz.org/crossword#1")}},
       {QStringLiteral("dimensions"), QJsonObject{{QStringLiteral("width"), puzzle.width},
                                                  {QStringLiteral("height"), puzzle.height}}},
-      {QStringLiteral("block"), QStringLiteral("#")},
-      {QStringLiteral("empty"), 0},
+      {QStringLiteral("block"), signs.block},
+      {QStringLiteral("empty"), signs.empty},
+      {QStringLiteral("puzzle"), Rows(puzzle, signs, &PuzzleCell::number)},
   };
   const std::pair<QStringView, const std::string*> texts[] = {{u"title", &puzzle.title},
                                                               {u"author", &puzzle.author},
@@ -109,17 +120,13 @@ std::string WriteIpuz(const Puzzle& puzzle, Remarks& remarks) {
                                                               {u"language", &puzzle.language}};
   for (const auto& [name, text] : texts)
     if (!text->empty()) file[name] = AsMarkup(*text);
+  const std::pair<QStringView, std::string PuzzleCell::*> letters[] = {
+      {u"solution", &PuzzleCell::solution}, {u"saved", &PuzzleCell::entry}};
+  for (const auto& [name, text] : letters)
+    if (!std::ranges::all_of(puzzle.cells, &std::string::empty, text))
+      file[name] = Rows(puzzle, signs, text);
 
-  file[u"puzzle"] = Rows(puzzle, [&](std::size_t i) {
-    return numbers[i].empty() ? QJsonValue(0) : Number(numbers[i]);
-  });
-  if (!std::ranges::all_of(puzzle.cells, &std::string::empty, &PuzzleCell::solution))
-    file[u"solution"] =
-        Rows(puzzle, [&](std::size_t i) { return Letter(puzzle.cells[i].solution); });
-  if (!std::ranges::all_of(puzzle.cells, &std::string::empty, &PuzzleCell::entry))
-    file[u"saved"] = Rows(puzzle, [&](std::size_t i) { return Letter(puzzle.cells[i].entry); });
-
-  const bool with_cells = !NumbersLead(puzzle, numbers);
+  const bool with_cells = !NumbersLead(puzzle);
   file[u"clues"] =
       QJsonObject{{QStringLiteral("Across"), CluesOf(puzzle, direction::across, with_cells)},
                   {QStringLiteral("Down"), CluesOf(puzzle, direction::down, with_cells)}};

@@ -12,7 +12,7 @@ namespace {
 
 class JpzWriter {
  public:
-  explicit JpzWriter(const Puzzle& puzzle) : puzzle_(puzzle) {}
+  explicit JpzWriter(const Puzzle& puzzle) : puzzle_(Numbered(puzzle)) {}
 
   std::string Write() {
     xml_.writeStartDocument();
@@ -56,14 +56,12 @@ class JpzWriter {
     xml_.writeStartElement(QStringLiteral("grid"));
     Attribute("width", puzzle_.width);
     Attribute("height", puzzle_.height);
-    const std::vector<std::string> numbers = NumbersOf(puzzle_);
-    std::size_t place = 0;
     for (int y = 1; y <= puzzle_.height; ++y)
-      for (int x = 1; x <= puzzle_.width; ++x, ++place) WriteCell({x, y}, numbers[place]);
+      for (int x = 1; x <= puzzle_.width; ++x) WriteCell({x, y});
     xml_.writeEndElement();
   }
 
-  void WriteCell(GridCell place, const std::string& number) {
+  void WriteCell(GridCell place) {
     const PuzzleCell& cell = puzzle_.At(place);
     xml_.writeStartElement(QStringLiteral("cell"));
     Attribute("x", place.x);
@@ -72,7 +70,7 @@ class JpzWriter {
     if (cell.kind == CellKind::empty) Attribute("type", QStringLiteral("void"));
     if (cell.kind == CellKind::letter) {
       const std::pair<const char*, const std::string*> texts[] = {
-          {"solution", &cell.solution}, {"number", &number}, {"solve-state", &cell.entry}};
+          {"solution", &cell.solution}, {"number", &cell.number}, {"solve-state", &cell.entry}};
       for (const auto& [name, text] : texts)
         if (!text->empty()) Attribute(name, *text);
     }
@@ -128,7 +126,7 @@ class JpzWriter {
     xml_.writeEndElement();
   }
 
-  const Puzzle& puzzle_;
+  Puzzle puzzle_;
   QByteArray bytes_;
   QXmlStreamWriter xml_{&bytes_};
   std::map<std::pair<int, GridCell>, int> words_;  ///< Their identities.

@@ -34,7 +34,9 @@ QString Decode(QByteArrayView bytes) {
 
 QString XmlText(std::string_view bytes) {
   QString text = Decode({bytes.data(), static_cast<qsizetype>(bytes.size())});
-  if (text.contains(u"<!ENTITY")) throw ConversionError(Matter::damaged, "<!ENTITY");
+  for (const char* declaration : {"<!ENTITY", "<!ATTLIST"})
+    if (text.contains(QLatin1String(declaration)))
+      throw ConversionError(Matter::damaged, declaration);
   int attributes = 0;
   for (const QChar character : text) {
     if (character == u'<')

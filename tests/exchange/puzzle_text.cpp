@@ -37,7 +37,7 @@ std::string ReadAs(const Format& format, const std::string& bytes) try {
 
 Puzzle RandomPuzzle(std::mt19937& random) {
   const auto pick = [&](int most) { return std::uniform_int_distribution<>(0, most)(random); };
-  const std::string letters[] = {"A", "Š", "LJ", "Њ", "é", "7", "", "ABC"};
+  const std::string letters[] = {"A", "Š", "LJ", "Њ", "é", "0", "", "ABC", "#"};
   const std::string texts[] = {"Ptica", "Птица „лабуд“", "a < b & c", "R&amp;B <i>",   "",
                                "\"x\"", "&scaron;",      "<br> ]]>",  "čćžšđ 100 % ~", "😀"};
   Puzzle puzzle = EmptyPuzzle(2 + pick(5), 2 + pick(5));
@@ -50,7 +50,7 @@ Puzzle RandomPuzzle(std::mt19937& random) {
     if (const int kind = pick(7); kind < 2)
       cell.kind = kind == 0 ? CellKind::block : CellKind::empty;
     else
-      cell = {.solution = letters[pick(7)], .entry = pick(3) == 0 ? letters[pick(7)] : ""};
+      cell = {.solution = letters[pick(8)], .entry = pick(3) == 0 ? letters[pick(8)] : ""};
   }
   const bool odd_numbers = pick(1) == 0;
   for (const WordStart& start : WordStarts(puzzle))
