@@ -32,36 +32,42 @@ bool AreWord(const Puzzle& puzzle, const std::vector<GridCell>& cells, int direc
          !puzzle.HasLetter(Next(cells.back(), direction));
 }
 
+/// The straight line with which a list of cells goes on from a place, and its direction, 0 if it
+/// turns at once.
+std::pair<std::vector<GridCell>, int> LineFrom(const std::vector<GridCell>& cells,
+                                               std::size_t from) {
+  std::vector<GridCell> line = {cells[from]};
+  for (const int direction : {direction::across, direction::down}) {
+    for (std::size_t i = from + 1; i < cells.size() && cells[i] == Next(line.back(), direction);
+         ++i)
+      line.push_back(cells[i]);
+    if (line.size() > 1) return {line, direction};
+  }
+  return {line, 0};
+}
+
 /// Finds the word of a clue whose cells the file lists. Linked clues list those of several words.
 void PlaceByCells(const Puzzle& puzzle, ListedClue& listed) {
   PuzzleClue& clue = listed.clue;
   const std::vector<GridCell>& cells = *listed.cells;
   for (const GridCell cell : cells)
     if (!puzzle.HasLetter(cell)) throw ConversionError(Matter::damaged, NameOf(clue));
-  const bool single = cells.size() == 1;
-  if (single && (clue.direction == 0 || AreWord(puzzle, cells, clue.direction))) return;
-  if (single) throw ConversionError(Matter::bars);
-
+  if (cells.size() == 1) {
+    if (clue.direction == 0 || AreWord(puzzle, cells, clue.direction)) return;
+    throw ConversionError(Matter::bars);
+  }
   for (std::size_t from = 0; from < cells.size();) {
-    int direction = 0;
-    std::size_t to = from + 1;
-    for (const int way : {direction::across, direction::down}) {
-      if (direction != 0) break;
-      while (to < cells.size() && cells[to] == Next(cells[to - 1], way)) ++to;
-      if (to > from + 1) direction = way;
-    }
+    const auto [line, direction] = LineFrom(cells, from);
     if (direction == 0) throw ConversionError(Matter::bent_word, NameOf(clue));
-    const std::vector<GridCell> word(cells.begin() + static_cast<std::ptrdiff_t>(from),
-                                     cells.begin() + static_cast<std::ptrdiff_t>(to));
-    if (!AreWord(puzzle, word, direction)) {
-      if (word.size() < cells.size()) throw ConversionError(Matter::bent_word, NameOf(clue));
+    if (!AreWord(puzzle, line, direction)) {
+      if (line.size() < cells.size()) throw ConversionError(Matter::bent_word, NameOf(clue));
       throw ConversionError(Matter::bars);
     }
     if (from == 0) {
       clue.direction = direction;
-      clue.cell = word.front();
+      clue.cell = line.front();
     }
-    from = to;
+    from += line.size();
   }
 }
 
@@ -223,11 +229,13 @@ void RemarkLosses(const Puzzle& puzzle, Remarks& remarks) {
       if (cell != cells.back() && HasBlankBehind(puzzle.At(cell), clue.direction))
         kept.emplace(cell, clue.direction);
   }
-  for (int y = 1; y <= puzzle.height; ++y)
-    for (int x = 1; x <= puzzle.width; ++x)
+  for (int y = 1; y <= puzzle.height; ++y) {
+    for (int x = 1; x <= puzzle.width; ++x) {
       for (const int direction : {direction::across, direction::down})
         if (HasBlankBehind(puzzle.At({x, y}), direction) && !kept.contains({{x, y}, direction}))
           remarks.Count(Matter::blanks_dropped);
+    }
+  }
 }
 
 Puzzle Numbered(Puzzle puzzle) {

@@ -26,7 +26,8 @@ std::string_view JsonOf(std::string_view bytes) {
   if (!bytes.starts_with("ipuz")) return bytes;
   const std::size_t open = bytes.find_first_not_of(" \t\r\n", 4);
   const std::size_t close = bytes.rfind(')');
-  if (open == bytes.npos || bytes[open] != '(' || close == bytes.npos) return {};
+  if (open == std::string_view::npos || bytes[open] != '(' || close == std::string_view::npos)
+    return {};
   bytes = bytes.substr(open + 1, close - open - 1);
   return bytes.substr(std::min(bytes.find_first_not_of(" \t\r\n"), bytes.size()));
 }
@@ -67,7 +68,7 @@ QJsonObject Parse(std::string_view bytes) {
 void RefuseOtherKinds(const QJsonObject& file) {
   QStringList kinds;
   if (file[u"kind"].isString()) kinds << PlainText(file[u"kind"]);
-  for (const QJsonValue& kind : file[u"kind"].toArray()) kinds << PlainText(kind);
+  for (const auto& kind : file[u"kind"].toArray()) kinds << PlainText(kind);
   for (const QString& kind : kinds) {
     const QString name = kind.section(u'#', 0, 0).section(u'/', -1);
     for (const char* other : {"diagramless", "arrow", "code", "acrostic", "fill", "filippine"})
@@ -91,14 +92,14 @@ std::optional<std::vector<GridCell>> ReadCells(const QJsonValue& cells) {
     return std::clamp(PlainText(value).toInt(), -1, most_values);
   };
   std::vector<GridCell> list;
-  for (const QJsonValue& cell : cells.toArray()) list.push_back({number(cell[0]), number(cell[1])});
+  for (const auto& cell : cells.toArray()) list.push_back({number(cell[0]), number(cell[1])});
   return list;
 }
 
 /// The first of several numbers.
 QString NumberOf(const QJsonObject& clue) {
   for (const QJsonValue& value : {clue[u"number"], clue[u"numbers"][0], clue[u"label"]})
-    if (const QString number = PlainText(value); !number.isEmpty()) return number;
+    if (QString number = PlainText(value); !number.isEmpty()) return number;
   return {};
 }
 
@@ -146,25 +147,25 @@ void ReadClues(const QJsonObject& lists, Puzzle& puzzle) {
     int direction = DirectionOfTitle(list.key());
     if (direction == 0 && lists.size() == 2)
       direction = place == 0 ? direction::across : direction::down;
-    for (const QJsonValue& clue : list.value().toArray())
-      clues.push_back(ReadClue(clue, direction));
+    for (const auto& clue : list.value().toArray()) clues.push_back(ReadClue(clue, direction));
   }
   CountFromOne(puzzle, clues);
   PlaceClues(puzzle, std::move(clues));
 }
 
 std::string LanguageOf(const QJsonObject& file) {
-  for (const QStringView name : {u"language", u"locale", u"org.libipuz:locale"})
+  for (const QStringView name : {u"language", u"locale", u"org.libipuz:locale"}) {
     for (const char* language : {"sr", "en"})
       if (PlainText(file[name]).startsWith(QLatin1String(language), Qt::CaseInsensitive))
         return language;
+  }
   return {};
 }
 
 }  // namespace
 
 bool IsIpuz(std::string_view bytes) {
-  return JsonOf(bytes).starts_with('{') && bytes.find("ipuz.org") != bytes.npos;
+  return JsonOf(bytes).starts_with('{') && bytes.find("ipuz.org") != std::string_view::npos;
 }
 
 Puzzle ReadIpuz(std::string_view bytes, Remarks& remarks) {

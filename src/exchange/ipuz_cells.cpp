@@ -30,7 +30,7 @@ QJsonValue Item(const QJsonValue& rows, GridCell cell) {
 QString Letter(const QJsonValue& item) {
   if (!item.isObject()) return PlainText(item);
   const QJsonObject object = item.toObject();
-  if (object.contains(u"value")) return Letter(object[u"value"].toString());
+  if (object.contains(u"value")) return PlainText(object[u"value"]);
   QStringList letters;
   for (const QStringView direction : {u"Across", u"Down"})
     if (const QString letter = PlainText(object[direction]); !letter.isEmpty()) letters << letter;
@@ -55,7 +55,7 @@ void ReadStyle(const QJsonObject& style, GridCell cell, Remarks& remarks,
 }
 
 QString NumberOf(const QJsonObject& cell) {
-  const QString number = PlainText(cell[u"cell"]);
+  QString number = PlainText(cell[u"cell"]);
   if (!number.isEmpty()) return number;
   const QJsonObject marks = cell[u"style"][u"mark"].toObject();
   return PlainText(marks[u"TL"]);

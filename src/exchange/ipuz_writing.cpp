@@ -99,38 +99,38 @@ QJsonArray CluesOf(const Puzzle& puzzle, int direction, bool with_cells) {
 
 }  // namespace
 
-std::string WriteIpuz(const Puzzle& given, Remarks& remarks) {
-  const Puzzle puzzle = Numbered(given);
-  const std::string empty = UnusedSign(puzzle, '0');
-  const Signs signs = {.block = QString::fromStdString(UnusedSign(puzzle, '#')),
+std::string WriteIpuz(const Puzzle& puzzle, Remarks& remarks) {
+  const Puzzle numbered = Numbered(puzzle);
+  const std::string empty = UnusedSign(numbered, '0');
+  const Signs signs = {.block = QString::fromStdString(UnusedSign(numbered, '#')),
                        .empty = empty == "0" ? QJsonValue(0) : QString::fromStdString(empty)};
   QJsonObject file = {
       {QStringLiteral("version"), QStringLiteral("http://ipuz.org/v2")},
       {QStringLiteral("kind"), QJsonArray{QStringLiteral("http://ipuz.org/crossword#1")}},
-      {QStringLiteral("dimensions"), QJsonObject{{QStringLiteral("width"), puzzle.width},
-                                                 {QStringLiteral("height"), puzzle.height}}},
+      {QStringLiteral("dimensions"), QJsonObject{{QStringLiteral("width"), numbered.width},
+                                                 {QStringLiteral("height"), numbered.height}}},
       {QStringLiteral("block"), signs.block},
       {QStringLiteral("empty"), signs.empty},
-      {QStringLiteral("puzzle"), Rows(puzzle, signs, &PuzzleCell::number)},
+      {QStringLiteral("puzzle"), Rows(numbered, signs, &PuzzleCell::number)},
   };
-  const std::pair<QStringView, const std::string*> texts[] = {{u"title", &puzzle.title},
-                                                              {u"author", &puzzle.author},
-                                                              {u"copyright", &puzzle.copyright},
-                                                              {u"intro", &puzzle.description},
-                                                              {u"language", &puzzle.language}};
+  const std::pair<QStringView, const std::string*> texts[] = {{u"title", &numbered.title},
+                                                              {u"author", &numbered.author},
+                                                              {u"copyright", &numbered.copyright},
+                                                              {u"intro", &numbered.description},
+                                                              {u"language", &numbered.language}};
   for (const auto& [name, text] : texts)
     if (!text->empty()) file[name] = AsMarkup(*text);
   const std::pair<QStringView, std::string PuzzleCell::*> letters[] = {
       {u"solution", &PuzzleCell::solution}, {u"saved", &PuzzleCell::entry}};
   for (const auto& [name, text] : letters)
-    if (!std::ranges::all_of(puzzle.cells, &std::string::empty, text))
-      file[name] = Rows(puzzle, signs, text);
+    if (!std::ranges::all_of(numbered.cells, &std::string::empty, text))
+      file[name] = Rows(numbered, signs, text);
 
-  const bool with_cells = !NumbersLead(puzzle);
+  const bool with_cells = !NumbersLead(numbered);
   file[u"clues"] =
-      QJsonObject{{QStringLiteral("Across"), CluesOf(puzzle, direction::across, with_cells)},
-                  {QStringLiteral("Down"), CluesOf(puzzle, direction::down, with_cells)}};
-  RemarkLosses(puzzle, remarks);
+      QJsonObject{{QStringLiteral("Across"), CluesOf(numbered, direction::across, with_cells)},
+                  {QStringLiteral("Down"), CluesOf(numbered, direction::down, with_cells)}};
+  RemarkLosses(numbered, remarks);
   return QJsonDocument(file).toJson(QJsonDocument::Compact).toStdString();
 }
 

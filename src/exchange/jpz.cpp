@@ -61,7 +61,7 @@ class JpzReader {
   }
 
  private:
-  bool Ended() const { return ended_ == u"rectangular-puzzle"; }
+  [[nodiscard]] bool Ended() const { return ended_ == u"rectangular-puzzle"; }
 
   /// Reads on to the next tag or text, and does what an element wants done.
   void Next() {
@@ -82,7 +82,7 @@ class JpzReader {
     struct Row {
       QStringView parent;  ///< Empty for any.
       QStringView name;
-      void (JpzReader::*start)();
+      void (JpzReader::*start)() = nullptr;
     };
     static constexpr Row rows[] = {
         {u"", u"rectangular-puzzle", &JpzReader::StartPuzzle},
@@ -178,7 +178,7 @@ class JpzReader {
     const int steps = std::max(std::abs(right - left), std::abs(bottom - top));
     if (word_cells_ += static_cast<std::size_t>(steps) + 1; word_cells_ > most_word_cells)
       throw ConversionError(Matter::too_long);
-    const auto sign = [](int difference) { return (difference > 0) - (difference < 0); };
+    const auto sign = [](int difference) { return difference > 0 ? 1 : difference < 0 ? -1 : 0; };
     for (int i = 0; i <= steps; ++i)
       words_[word_].push_back({left + i * sign(right - left), top + i * sign(bottom - top)});
   }
@@ -260,9 +260,9 @@ bool IsXmlCrossword(std::string_view bytes) {
   std::string head(bytes.substr(0, 4096));
   std::erase(head, '\0');
   const std::size_t first = head.find_first_not_of(" \t\r\n\xEF\xBB\xBF\xFE\xFF");
-  return first != head.npos && head[first] == '<' &&
-         (head.find("crossword-compiler") != head.npos ||
-          head.find("rectangular-puzzle") != head.npos);
+  return first != std::string::npos && head[first] == '<' &&
+         (head.find("crossword-compiler") != std::string::npos ||
+          head.find("rectangular-puzzle") != std::string::npos);
 }
 
 }  // namespace

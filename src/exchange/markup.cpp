@@ -11,7 +11,7 @@ namespace {
 
 struct Entity {
   QStringView name;
-  char32_t character;
+  char32_t character = 0;
 };
 constexpr Entity entities[] = {
     {u"amp", U'&'},    {u"lt", U'<'},     {u"gt", U'>'},     {u"quot", U'"'},   {u"apos", U'\''},

@@ -4,6 +4,7 @@
 #include <zip.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "exchange/remark.h"
@@ -29,15 +30,13 @@ std::string Content(zip_t* archive, zip_uint64_t index, std::size_t most) {
   const Entry entry(zip_fopen_index(archive, index, 0), &zip_fclose);
   std::string content;
   if (!entry) return content;
-  constexpr std::size_t step = 65536;
-  for (std::size_t length = 0; length <= most;) {
-    content.resize(length + std::min(step, most + 1 - length));
+  std::array<char, 65536> part{};
+  while (content.size() <= most) {
     const zip_int64_t got =
-        zip_fread(entry.get(), content.data() + length, content.size() - length);
+        zip_fread(entry.get(), part.data(), std::min(part.size(), most + 1 - content.size()));
     if (got < 0) return {};
-    length += static_cast<std::size_t>(got);
-    content.resize(length);
     if (got == 0) break;
+    content.append(part.data(), static_cast<std::size_t>(got));
   }
   return content;
 }

@@ -38,7 +38,8 @@ std::string File(const std::string& cells = "", const std::string& words = usual
 }
 
 std::string Replaced(std::string text, const std::string& old, const std::string& by) {
-  for (std::size_t place = 0; (place = text.find(old, place)) != text.npos; place += by.size())
+  for (std::size_t place = 0; (place = text.find(old, place)) != std::string::npos;
+       place += by.size())
     text.replace(place, old.size(), by);
   return text;
 }
