@@ -9,7 +9,8 @@ source tools/packages.sh
 
 seconds=${1:?"the seconds for each target are missing"}
 targets=("${@:2}")
-((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture puz settings xd)
+((${#targets[@]} > 0)) ||
+  targets=(crossword_file installments ipuz journal jpz media_pack picture puz settings xd)
 corpus=build/fuzz/corpus
 found=build/fuzz/found
 samples=build/release/made_samples
@@ -46,7 +47,7 @@ xd_input() {
 make_seeds() {
   local target
   for target in "${targets[@]}"; do mkdir -p "$corpus/$target" "$found/$target"; done
-  mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,puz,settings,xd}
+  mkdir -p "$corpus"/{crossword_file,installments,ipuz,jpz,media_pack,picture,puz,settings,xd}
   cp "$samples"/*.qvm "$corpus/crossword_file"
   join "$samples"/zima100[123].qvm >"$corpus/installments/zima"
   join "$samples"/{leto1001,proba,leto1003}.qvm >"$corpus/installments/leto"
@@ -54,6 +55,8 @@ make_seeds() {
   for name in $(head -n 1 "$samples/zima1001.qvm" | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
     pack_input "$name" "$samples/zima1001" >"$corpus/media_pack/$name"
   done
+  cp tests/data/crosswords/*.ipuz "$corpus/ipuz"
+  cp tests/data/crosswords/*.jpz "$corpus/jpz"
   cp src/shell/forms/pictures/*.bmp tests/data/bitmaps/*.bmp "$corpus/picture"
   puz_input >"$corpus/puz/seed"
   xd_input >"$corpus/xd/seed"
@@ -80,6 +83,7 @@ export -f run_target
 export seconds found corpus
 
 require_packages "${build_packages[@]}" "${fuzz_packages[@]}"
+build_preset release
 build_preset fuzz
 make_seeds
 # In memory, since a save waits for the disk.

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "exchange/ipuz.h"
+#include "exchange/jpz.h"
 #include "exchange/puz.h"
 #include "exchange/xd.h"
 
@@ -11,6 +13,8 @@ namespace kalvon::exchange {
 namespace {
 
 const std::vector<Format> formats = {
+    {.ending = "ipuz", .fits = IsIpuz, .read = ReadIpuz, .write = WriteIpuz},
+    {.ending = "jpz", .fits = IsJpz, .read = ReadJpz, .write = WriteJpz},
     {.ending = "puz", .fits = IsPuz, .read = ReadPuz, .write = WritePuz},
     {.ending = "xd", .fits = IsXd, .read = ReadXd, .write = WriteXd},
 };
