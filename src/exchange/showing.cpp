@@ -21,6 +21,10 @@ struct Alphabet {
   [[nodiscard]] std::string Text(std::string_view coded) const {
     return english ? std::string(coded) : UnicodeText(coded, latin);
   }
+  /// A text of the head, which has Latin letters.
+  [[nodiscard]] std::string HeadText(const std::string& text) const {
+    return english || latin ? text : UnicodeText(StoredText(text), latin);
+  }
 };
 
 /// The digits of the marks of a cell's borders, of which the last two characters tell.
@@ -81,10 +85,10 @@ Puzzle Shown(const HeadedCrossword& headed, bool latin) {
   const Crossword& crossword = headed.crossword;
   const Alphabet alphabet{headed.english, latin};
   Puzzle puzzle = EmptyPuzzle(crossword.ukr_sirina, crossword.ukr_visina);
-  puzzle.title = headed.head.title;
-  puzzle.author = headed.head.author;
-  puzzle.copyright = headed.head.copyright;
-  puzzle.description = headed.head.description;
+  puzzle.title = alphabet.HeadText(headed.head.title);
+  puzzle.author = alphabet.HeadText(headed.head.author);
+  puzzle.copyright = alphabet.HeadText(headed.head.copyright);
+  puzzle.description = alphabet.HeadText(headed.head.description);
   if (crossword.nast_zadnji > 1) {
     puzzle.installments = crossword.nast_zadnji;
     puzzle.join = crossword.nast_smer;
