@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
 #include <algorithm>
+#include <span>
 
 #include "converter/conversion.h"
 #include "converter/options.h"
@@ -41,7 +42,8 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("kalvon-convert"));
   QCoreApplication::setApplicationVersion(QStringLiteral(KALVON_VERSION));
-  const auto options = OptionsOf({argv, argv + argc});
+  const std::span words(argv, static_cast<std::size_t>(argc));
+  const auto options = OptionsOf({words.begin(), words.end()});
   if (!options) return failed;
   if (options->check) return CheckAll(*options);
   return ConvertAll(*options) ? done : failed;
