@@ -97,12 +97,11 @@ void Write(const std::vector<Output>& outputs, bool force) {
   for (const Output& output : outputs)
     if (!force && output.path != standard_stream && FileInfo(output.path).exists())
       throw ConversionError(Matter::exists, output.path);
-  for (const Output& output : outputs) {
-    if (output.path == standard_stream)
-      std::cout.write(output.bytes.data(), static_cast<std::streamsize>(output.bytes.size()))
-          .flush();
+  for (const auto& [path, bytes] : outputs) {
+    if (path != standard_stream)
+      exchange::WriteBytes(path, bytes);
     else
-      exchange::WriteBytes(output.path, output.bytes);
+      std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
   }
 }
 
