@@ -81,7 +81,8 @@ std::vector<std::string> WriteInstallments(const ScratchFolder& folder, int coun
 
 BenchProgram::BenchProgram() {
   glavni = CrosswordState{};
-  toolkit::App::Path(files::LogicPath(folder_.Path()));
+  const std::string folder = files::LogicPath(folder_.Path());
+  toolkit::App::Folders({.own = folder, .shipped = folder});
   setenv("XDG_STATE_HOME", (folder_.Path() + "/state").c_str(), 1);
   setenv("XDG_CONFIG_HOME", (folder_.Path() + "/config").c_str(), 1);
   BindEvents();

@@ -28,7 +28,8 @@ enum class News {
   no_empty_cell,
   nothing_selected,  ///< By a click on a cell with one word, whose direction was not at hand.
   no_crossing_word,
-  about,  ///< The program.
+  nothing_kept,  ///< The program has no folder for what it keeps; a file without a name says why.
+  about,         ///< The program.
 };
 
 /// A file that was written or read, and how that went.

@@ -21,9 +21,8 @@ struct Alphabet {
   [[nodiscard]] std::string Text(std::string_view coded) const {
     return english ? std::string(coded) : UnicodeText(coded, latin);
   }
-  /// A text of the head, which has Latin letters.
   [[nodiscard]] std::string HeadText(const std::string& text) const {
-    return english || latin ? text : UnicodeText(StoredText(text), latin);
+    return english ? text : TextIn(text, latin);
   }
 };
 

@@ -68,13 +68,18 @@ class Storage {
     StoreCells();
     Number();
     return {std::move(crossword_),
-            {puzzle_.title, puzzle_.author, puzzle_.copyright, puzzle_.description},
+            {HeadText(puzzle_.title), HeadText(puzzle_.author), HeadText(puzzle_.copyright),
+             HeadText(puzzle_.description)},
             {},
             english_,
             {puzzle_.installments, puzzle_.join}};
   }
 
  private:
+  [[nodiscard]] std::string HeadText(const std::string& text) const {
+    return english_ ? text : TextIn(text, true);
+  }
+
   /// What starts in a cell, across and down.
   struct Start {
     bool starts = false;

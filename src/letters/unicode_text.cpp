@@ -164,6 +164,20 @@ std::string UnicodeText(std::string_view stored, bool latin) {
   return text;
 }
 
+std::string TextIn(std::string_view text, bool latin) {
+  std::string shown;
+  while (!text.empty()) {
+    std::string_view rest = text;
+    while (TakeLetter(rest) != '\0' || TakeOff(rest, non_joiner)) {
+    }
+    const std::size_t letters = text.size() - rest.size();
+    shown += UnicodeText(StoredText(text.substr(0, letters)), latin);
+    shown += rest.substr(0, 1);
+    text.remove_prefix(std::min(letters + 1, text.size()));
+  }
+  return shown;
+}
+
 std::string UnicodeCapital(char stored, bool latin) {
   const std::string_view spelled = Spelled(stored, latin);
   if (latin && stored == 'Q') return "LJ";

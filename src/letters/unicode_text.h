@@ -22,6 +22,9 @@ std::string StoredText(std::string_view text);
 /// that would be read as a digraph.
 std::string UnicodeText(std::string_view stored, bool latin);
 
+/// A text of either script in letters of one. All but letters is copied.
+std::string TextIn(std::string_view text, bool latin);
+
 /// A stored capital as it stands in the cell of a grid: a digraph in two capitals.
 std::string UnicodeCapital(char stored, bool latin);
 

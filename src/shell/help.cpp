@@ -3,9 +3,11 @@
 
 #include "document/crossword_state.h"
 #include "files/folder_entries.h"
+#include "files/host_paths.h"
 #include "shell/browser_link.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_help.h"
+#include "shell/toolkit/windows/application.h"
 
 namespace kalvon {
 
@@ -18,7 +20,8 @@ void EnableCommands(bool enabled) {
 }  // namespace
 
 void OpenManual(const std::string& page) {
-  frm_help->txtURL.Text(files::LowerCase(glavni.app_staza) + "uputstvo\\" + page);
+  const std::string shipped = files::WithBackslash(toolkit::App::Folders().shipped);
+  frm_help->txtURL.Text(files::LowerCase(shipped) + "uputstvo\\" + page);
   pokreni_browser(frm_help->txtURL.Text());
 }
 

@@ -2,12 +2,15 @@
 #include "shell/startup.h"
 
 #include "crossword/direction.h"
+#include "crossword/sample_copies.h"
 #include "display/grid_geometry.h"
 #include "document/crossword_state.h"
 #include "document/journal_keeping.h"
+#include "document/news.h"
 #include "document/settings.h"
 #include "document/time_spent.h"
 #include "files/host_paths.h"
+#include "files/run_time_error.h"
 #include "multimedia/media_pane.h"
 #include "shell/contrast.h"
 #include "shell/english_captions.h"
@@ -19,6 +22,7 @@
 #include "shell/spoken_names.h"
 #include "shell/spoken_pictures.h"
 #include "shell/strip.h"
+#include "shell/toolkit/desktop/host_settings.h"
 #include "shell/toolkit/desktop/screen.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/application.h"
@@ -47,12 +51,34 @@ void PlaceForms() {
   LayOutOptions();
 }
 
-void ShowProgramFolder() {
+/// The load dialog begins at the user's crosswords, or in the program's own folder.
+void ShowFirstFolder() {
+  const std::string& crosswords = toolkit::App::Folders().crosswords;
+  const std::string folder = crosswords.empty() ? glavni.app_staza : crosswords;
   auto& dialog = *frm_ucit_snimi;
-  dialog.Drive1.Drive(glavni.app_staza.substr(0, 3));
-  dialog.Dir1.Path(glavni.app_staza);
-  dialog.File1.Path(glavni.app_staza);
+  dialog.Drive1.Drive(folder.substr(0, 3));
+  dialog.Dir1.Path(folder);
+  dialog.File1.Path(folder);
   dialog.File1.Pattern("*.qvm");
+}
+
+/// An installed program gives its samples to the user, once for each of its versions.
+void HandOutSamples() {
+  const toolkit::ProgramFolders& folders = toolkit::App::Folders();
+  if (folders.crosswords.empty()) return;
+  const std::string language = glavni.jezik == 0 ? "sr" : "en";
+  const std::string setting = "samples_" + language;
+  if (toolkit::GetSetting(setting, "") == KALVON_VERSION) return;
+  const int failure = files::pass_over([&] {
+    CopySamples(files::WithBackslash(folders.shipped) + "primeri\\" + language, folders.crosswords);
+  });
+  if (failure == 0) toolkit::SaveSetting(setting, KALVON_VERSION);
+}
+
+/// Says so where nothing outlives the program.
+void TellOfFolders() {
+  const int error = toolkit::App::Folders().error;
+  if (error != 0) glavni.vest = {.news = News::nothing_kept, .files = {{"", error}}};
 }
 
 void DisableWhatNeedsACrossword() {
@@ -79,7 +105,8 @@ void Start() {
   glavni.jezik = ProgramLanguage();
   glavni.app_staza = files::WithBackslash(toolkit::App::Path());
   PlaceForms();
-  ShowProgramFolder();
+  HandOutSamples();
+  ShowFirstFolder();
   glavni.smer = direction::down;
   glavni.rec_x1 = glavni.rec_y1 = glavni.rec_x2 = glavni.rec_y2 = 0;
   glavni.pre_ucitavanja = 1;
@@ -96,6 +123,7 @@ void Start() {
   NameControls();
   DescribePictures();
   ShowZoom();
+  TellOfFolders();
   UpdateStrip();
   glavni.forma_sirina = frm_glavni->Width();
   glavni.forma_visina = frm_glavni->Height();

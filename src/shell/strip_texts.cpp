@@ -138,6 +138,8 @@ constexpr StripText solved = {"Bravo! Sva slova su na svom mestu.",
 constexpr StripText about_program = {
     "`Vostrand KALVON Multimedia` %, slobodan program (licenca `MIT`).",
     "Vostrand KALVON Multimedia %, free software (MIT licence)."};
+constexpr StripText nothing_kept = {"Podešavanja se neće sačuvati: %.",
+                                    "Settings will not be kept: %."};
 constexpr StripText nothing_loaded = {"`Ctrl+O` učitava ukrštenicu.", "Ctrl+O loads a crossword."};
 
 /// The files that were written, or those that were not, each with its reason.
@@ -200,6 +202,8 @@ std::string TextOf(const Vest& vest) {
       return Shown(nothing_selected);
     case News::no_crossing_word:
       return Shown(no_crossing_word);
+    case News::nothing_kept:
+      return Shown(nothing_kept, Files(vest, true));
     case News::about:
       return Shown(about_program, KALVON_VERSION);
   }

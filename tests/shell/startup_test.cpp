@@ -2,9 +2,14 @@
 #include <QApplication>
 #include <QPushButton>
 #include <csignal>
+#include <filesystem>
 #include <map>
 
+#include "files/host_paths.h"
+#include "files/run_time_error.h"
+#include "files/scratch_folder.h"
 #include "shell/events.h"
+#include "shell/toolkit/desktop/program_folders.h"
 #include "shell/toolkit/desktop/screen.h"
 #include "shell/toolkit/events/program_end.h"
 #include "shell/toolkit/windows/end_requests_p.h"
@@ -88,6 +93,38 @@ TEST_F(StartupTest, TheWindowAndTheDesktopEndTheProgramWithoutASave) {
     EXPECT_TRUE(std::filesystem::remove(folder() / "m_kalvon_ini.txt"));
     Restart();
   }
+}
+
+TEST(ProgramFolders, DependOnWhereTheProgramLies) {
+  const ScratchFolder prefix;
+  const QByteArray data = qgetenv("XDG_DATA_HOME");
+  const QByteArray home = qgetenv("HOME");
+  qputenv("HOME", prefix.Host("home").c_str());
+  qunsetenv("XDG_DATA_HOME");
+  for (const char* folder : {"bin", "share", "share/kalvon"})
+    std::filesystem::create_directory(prefix.Host(folder));
+
+  const toolkit::ProgramFolders own = toolkit::FindProgramFolders(prefix.Host("share"));
+  EXPECT_EQ(own.own, prefix.Logic("share"));
+  EXPECT_EQ(own.shipped, own.own);
+  EXPECT_EQ(own.crosswords + std::to_string(own.error), "0");
+
+  const toolkit::ProgramFolders installed = toolkit::FindProgramFolders(prefix.Host("bin"));
+  EXPECT_EQ(installed.shipped, prefix.Logic("share\\kalvon"));
+  EXPECT_EQ(installed.own, prefix.Logic("home\\.local\\share\\kalvon"));
+  EXPECT_EQ(installed.crosswords, prefix.Logic("home\\Documents\\Ukrstenice"));
+  EXPECT_EQ(installed.error, 0);
+  EXPECT_TRUE(std::filesystem::is_directory(prefix.Host("home/Documents/Ukrstenice")));
+
+  // No home, in a way that stops root too.
+  std::filesystem::remove_all(prefix.Host("home"));
+  prefix.Put("home", "no folder");
+  const toolkit::ProgramFolders passing = toolkit::FindProgramFolders(prefix.Host("bin"));
+  EXPECT_EQ(passing.error, files::error::path_not_found);
+  EXPECT_TRUE(std::filesystem::is_directory(files::HostPath(passing.own)));
+  EXPECT_EQ(passing.crosswords, passing.own);
+  qputenv("HOME", home);
+  qputenv("XDG_DATA_HOME", data);
 }
 
 }  // namespace kalvon::testing

@@ -28,7 +28,7 @@ void ProgramTest::Start() {
   glavni = CrosswordState{};
   qputenv("XDG_STATE_HOME", state_.Host().c_str());
   qputenv("XDG_CONFIG_HOME", state_.Host("config").c_str());
-  toolkit::App::Path(scratch_.Logic());
+  toolkit::App::Folders({.own = scratch_.Logic(), .shipped = scratch_.Logic()});
   toolkit::UseBrowserHost(std::make_unique<ScriptedBrowser>(browser_));
   BindEvents();
   frm_glavni->Show();

@@ -2,17 +2,13 @@
 #include "shell/toolkit/windows/application.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScopedValueRollback>
-#include <QStandardPaths>
 #include <QWheelEvent>
 #include <csignal>
 #include <cstdlib>
 
-#include "files/host_paths.h"
 #include "shell/toolkit/desktop/browser_host.h"
 #include "shell/toolkit/drawing/face_p.h"
 #include "shell/toolkit/drawing/scale.h"
@@ -26,7 +22,7 @@ namespace toolkit {
 
 namespace {
 
-std::string program_folder;
+ProgramFolders program_folders;
 
 bool in_event_loop = false;
 
@@ -108,9 +104,6 @@ class GatedApplication : public QApplication {
   }
 };
 
-/// Whether files can be made in the folder.
-bool CanBeWritten(const QString& folder) { return QFileInfo(folder).isWritable(); }
-
 }  // namespace
 
 Application::Application(int& argc, char** argv) {
@@ -153,16 +146,12 @@ void Shell(const std::string& command_line) { CurrentBrowserHost().Start(command
 
 int GetFocus() { return HandleOf(QApplication::focusWidget()); }
 
-std::string App::Path() {
-  if (!program_folder.empty()) return program_folder;
-  QString folder = QApplication::applicationDirPath();
-  if (!CanBeWritten(folder)) {
-    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(folder);
-  }
-  return files::LogicPath(QFile::encodeName(folder).toStdString());
+const ProgramFolders& App::Folders() {
+  if (program_folders.own.empty())
+    program_folders = FindProgramFolders(QApplication::applicationDirPath().toStdString());
+  return program_folders;
 }
 
-void App::Path(const std::string& path) { program_folder = path; }
+void App::Folders(const ProgramFolders& folders) { program_folders = folders; }
 
 }  // namespace toolkit

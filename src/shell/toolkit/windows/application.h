@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "shell/toolkit/desktop/program_folders.h"
+
 class QApplication;
 
 namespace toolkit {
@@ -38,10 +40,11 @@ int GetFocus();
 
 struct App {
   /// Folder of the program, with no final "\" unless it is a drive's root; the user's data folder
-  /// if the program's own cannot be written.
-  static std::string Path();
-  /// Lets another folder stand for it.
-  static void Path(const std::string& path);
+  /// if the program is installed, or its own folder cannot be written.
+  static std::string Path() { return Folders().own; }
+  static const ProgramFolders& Folders();
+  /// Lets other folders stand for them.
+  static void Folders(const ProgramFolders& folders);
 };
 
 }  // namespace toolkit
