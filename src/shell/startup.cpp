@@ -65,7 +65,7 @@ void ShowFirstFolder() {
 /// An installed program gives its samples to the user, once for each of its versions.
 void HandOutSamples() {
   const toolkit::ProgramFolders& folders = toolkit::App::Folders();
-  if (folders.crosswords.empty()) return;
+  if (folders.crosswords.empty() || folders.crosswords.starts_with(folders.shipped)) return;
   const std::string language = glavni.jezik == 0 ? "sr" : "en";
   const std::string setting = "samples_" + language;
   if (toolkit::GetSetting(setting, "") == KALVON_VERSION) return;

@@ -122,7 +122,7 @@ TEST(ProgramFolders, DependOnWhereTheProgramLies) {
   const toolkit::ProgramFolders passing = toolkit::FindProgramFolders(prefix.Host("bin"));
   EXPECT_EQ(passing.error, files::error::path_not_found);
   EXPECT_TRUE(std::filesystem::is_directory(files::HostPath(passing.own)));
-  EXPECT_EQ(passing.crosswords, passing.own);
+  EXPECT_EQ(passing.crosswords, prefix.Logic("share\\kalvon\\primeri"));
   qputenv("HOME", home);
   qputenv("XDG_DATA_HOME", data);
 }

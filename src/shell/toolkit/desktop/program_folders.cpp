@@ -64,7 +64,7 @@ ProgramFolders FindProgramFolders(const std::string& program) {
     const QString crosswords =
         UserFolder(QStandardPaths::DocumentsLocation, QStringLiteral("Ukrstenice"));
     const bool is_there = !crosswords.isEmpty() && QDir().mkpath(crosswords);
-    found.crosswords = is_there ? Spoken(crosswords) : found.own;
+    found.crosswords = is_there ? Spoken(crosswords) : found.shipped + "\\primeri";
   }
   return found;
 }

@@ -8,10 +8,11 @@ namespace toolkit {
 /// Where the things of the program lie. Folders are paths of the logic, with no final "\" unless it
 /// is a drive's root.
 struct ProgramFolders {
-  std::string own = {};         ///< Its settings, and the media of the moment.
-  std::string shipped = {};     ///< Its manual and, if it is installed, its samples.
-  std::string crosswords = {};  ///< Of the user, if the program is installed; else empty.
-  int error = 0;                ///< The run-time error for which nothing in `own` is kept, or 0.
+  std::string own = {};      ///< Its settings, and the media of the moment.
+  std::string shipped = {};  ///< Its manual and, if it is installed, its samples.
+  /// Of the user, or the samples if he has no folder; empty if the program is not installed.
+  std::string crosswords = {};
+  int error = 0;  ///< The run-time error for which nothing in `own` is kept, or 0.
 };
 
 /// The folders of a program that lies in this folder of the host; those of the user are made if
