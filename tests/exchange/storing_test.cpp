@@ -47,7 +47,7 @@ TEST(Storing, TakesTheLettersOfBothAlphabets) {
     std::vector<std::string> cells;
     Language language;
     std::string stored;  ///< Of a lenient reading.
-    std::string remarks = "";
+    std::string remarks = {};
     bool strict = true;  ///< Whether a strict reading takes it too.
   };
   const Case cases[] = {
@@ -97,8 +97,8 @@ TEST(Storing, PutsCluesIntoTheCode) {
       {"Ljubičasti džemper, KONJ i NJ.", "Qubi~asti xemper, KOW i W.",
        "Ljubičasti džemper, KONJ i NJ."},
       {"konjunktura, инјекција", "konjunktura, injekcija", "konjunktura, инјекција"},
-      {"„Beograd” – «grad»…", "\"Beograd\" - \"grad\"...", "„Beograd” – «grad»…"},
-      {"5 $; [a] x\\y|z @ ^ ~ `", "5 ?, (a) ks/y/z (at) ' - '", "5 ?, [a] x\\y|z @ ^ ~ `"},
+      {"„Beograd” – «grad»…", R"("Beograd" - "grad"...)", "„Beograd” – «grad»…"},
+      {R"(5 $; [a] x\y|z @ ^ ~ `)", "5 ?, (a) ks/y/z (at) ' - '", R"(5 ?, [a] x\y|z @ ^ ~ `)"},
       {"/kosa", " /kosa", " /kosa"},
       {"Café naïve, Łódź ☃", "Cafe naive, Lodz ?", "Café naïve, Łódź ☃"},
       {" dva\n reda\t", "dva reda", "dva reda"},
