@@ -33,6 +33,7 @@ ROWS = (
     Row(r"letters/", "letters/"),
     Row(r"crossword/", "crossword/|files/"),
     Row(r"exchange/", "exchange/|crossword/|letters/|files/", HOST),
+    Row(r"printing/", "printing/|crossword/|letters/|files/", HOST),
     Row(r"shell/toolkit/events/", TOOLKIT, HOST),
     Row(r"shell/toolkit/drawing/", TOOLKIT, HOST),
     Row(r"shell/toolkit/desktop/", TOOLKIT, HOST),
@@ -84,7 +85,7 @@ def row_of(name):
 
 
 def may_use_qt(name):
-    if name.startswith("exchange/"):  # It is linked to Qt's core alone.
+    if name.startswith(("exchange/", "printing/")):  # Linked to Qt's core, and to its GUI.
         return True
     in_toolkit = name.startswith("shell/toolkit/")
     return in_toolkit and (name.endswith(".cpp") or bool(PRIVATE_HEADER.match(name)))
