@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # Copies the sample crosswords into the program's folder. A crossword file is puzzle and saved game
 # in one, so a copy that is neither the sample nor what was handed out holds a game and stays.
+file(GLOB parts ${PARTS}/*.qvm)
+file(COPY ${parts} DESTINATION ${SAMPLES})
 file(GLOB samples ${SAMPLES}/*.qvm ${SAMPLES}/*.qvd)
 file(MAKE_DIRECTORY ${PROGRAM_FOLDER} ${HANDED_OUT})
 

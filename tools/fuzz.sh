@@ -9,9 +9,11 @@ source tools/packages.sh
 
 seconds=${1:?"the seconds for each target are missing"}
 targets=("${@:2}")
-((${#targets[@]} > 0)) || targets=(crossword_file installments journal media_pack picture settings)
+((${#targets[@]} > 0)) ||
+  targets=(crossword_file installments ipuz journal jpz media_pack picture puz settings xd)
 corpus=build/fuzz/corpus
 found=build/fuzz/found
+samples=build/release/made_samples
 
 # Joins files into one input that stands for all of them.
 join() {
@@ -29,18 +31,36 @@ pack_input() {
   head -c 20000 "$2.qvd"
 }
 
+# A crossword of three by three cells: the header, the grids, the texts, and a rebus.
+puz_input() {
+  printf '\0\0ACROSS&DOWN\0%10s2.0\0%16s\3\3\4\0\1\0\0\0' '' ''
+  printf 'CATA.ORUN----.----title\0author\0\0one\0two\0three\0four\0note\0'
+  printf 'GRBS\11\0\0\0\1\0\0\0\0\0\0\0\0\0RTBL\6\0\0\0 0:LJ;\0RUSR\13\0\0\0LJ\0\0\0\0\0\0\0\0\0\0'
+}
+
+xd_input() {
+  printf '## Metadata\nTitle: x\nRebus: 1=LJ\nInstallments: 3 beside\nEntries: C.. .#. 1..\n'
+  printf '## Grid\nCA1\nA#_\nR?N\n## Clues\nA1. {/x/} {@y|z@} {\\~\\} ~ CA LJ\nA1 ^Media: s.png\nD1. x // y\n'
+  printf '## Design\nO { background: circle }\nO..\n## Start\nC..\n.#.\n...\n## Notes\nx\n'
+}
+
 make_seeds() {
   local target
   for target in "${targets[@]}"; do mkdir -p "$corpus/$target" "$found/$target"; done
-  mkdir -p "$corpus"/{crossword_file,installments,media_pack,picture,settings}
-  cp samples/*.qvm "$corpus/crossword_file"
-  join samples/zima100[123].qvm >"$corpus/installments/zima"
-  join samples/leto1001.qvm samples/proba.qvm samples/leto1003.qvm >"$corpus/installments/leto"
+  mkdir -p "$corpus"/{crossword_file,installments,ipuz,jpz,media_pack,picture,puz,settings,xd}
+  cp "$samples"/*.qvm "$corpus/crossword_file"
+  join "$samples"/zima100[123].qvm >"$corpus/installments/zima"
+  join "$samples"/{leto1001,proba,leto1003}.qvm >"$corpus/installments/leto"
   local name
-  for name in $(head -n 1 samples/zima1001.qvm | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
-    pack_input "$name" samples/zima1001 >"$corpus/media_pack/$name"
+  for name in $(head -n 1 "$samples/zima1001.qvm" | grep -o '[a-z0-9_]*\.[a-z]\{3\}'); do
+    pack_input "$name" "$samples/zima1001" >"$corpus/media_pack/$name"
   done
+  cp tests/data/crosswords/*.ipuz "$corpus/ipuz"
+  cp tests/data/crosswords/*.jpz "$corpus/jpz"
   cp src/shell/forms/pictures/*.bmp tests/data/bitmaps/*.bmp "$corpus/picture"
+  puz_input >"$corpus/puz/seed"
+  xd_input >"$corpus/xd/seed"
+  printf 'Title: x\n\n\nCAT\nA.O\n\n\nA1. x ~ CAT ~ COT\n1. y\n\n\nnotes' >"$corpus/xd/plain"
   printf 'Vostrand Kalvon Multimedia\r\nStaza:c:\\home\r\nPismo:Latinica\r\nTastatura:Unikod\r\n' \
     >"$corpus/settings/settings"
 }
@@ -63,6 +83,7 @@ export -f run_target
 export seconds found corpus
 
 require_packages "${build_packages[@]}" "${fuzz_packages[@]}"
+build_preset release
 build_preset fuzz
 make_seeds
 # In memory, since a save waits for the disk.

@@ -215,7 +215,7 @@ require_packages "${virtual_display_packages[@]}" "${screenshot_packages[@]}"
 export XDG_STATE_HOME=$scratch/state XDG_CONFIG_HOME=$scratch/config
 mkdir "$scratch" || give_up "$scratch is in the way: it has to be made here."
 trap stop_all EXIT
-cp "$built" samples/*.qvm samples/*.qvd "$scratch"
+cp "$built" build/release/made_samples/* "$scratch"
 mkdir -p "$pictures"
 start_display
 take_title

@@ -4,10 +4,20 @@
 #include <algorithm>
 #include <vector>
 
+#include "exchange/ipuz.h"
+#include "exchange/jpz.h"
+#include "exchange/puz.h"
+#include "exchange/xd.h"
+
 namespace kalvon::exchange {
 namespace {
 
-const std::vector<Format> formats = {};
+const std::vector<Format> formats = {
+    {.ending = "ipuz", .fits = IsIpuz, .read = ReadIpuz, .write = WriteIpuz},
+    {.ending = "jpz", .fits = IsJpz, .read = ReadJpz, .write = WriteJpz},
+    {.ending = "puz", .fits = IsPuz, .read = ReadPuz, .write = WritePuz},
+    {.ending = "xd", .fits = IsXd, .read = ReadXd, .write = WriteXd},
+};
 
 template <typename Test>
 const Format* Find(Test test) {

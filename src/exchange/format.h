@@ -33,4 +33,7 @@ const Format* FormatOfEnding(std::string_view ending);
 /// Files beyond this size are not read. Bytes.
 inline constexpr std::size_t largest_file = std::size_t{32} << 20;
 
+/// No cell has a longer text. Characters.
+inline constexpr int longest_cell = 100;
+
 }  // namespace kalvon::exchange

@@ -11,7 +11,7 @@ namespace {
 
 struct Entity {
   QStringView name;
-  char32_t character;
+  char32_t character = 0;
 };
 constexpr Entity entities[] = {
     {u"amp", U'&'},    {u"lt", U'<'},     {u"gt", U'>'},     {u"quot", U'"'},   {u"apos", U'\''},
@@ -42,8 +42,24 @@ const QStringList& LatinEntities() {
   return names;
 }
 
-/// The character of an entity's name, "#233" and "#xE9" among them; 0 for an unknown one.
-char32_t CharacterOf(QStringView name) {
+QString WithEntitiesResolved(const QString& text) {
+  static const QRegularExpression pattern(QStringLiteral("&(#?[0-9A-Za-z]{1,8});"));
+  QString resolved;
+  qsizetype done = 0;
+  for (auto matches = pattern.globalMatch(text); matches.hasNext();) {
+    const QRegularExpressionMatch match = matches.next();
+    const char32_t character = CharacterOfEntity(match.capturedView(1));
+    if (character == 0) continue;
+    resolved += QStringView(text).mid(done, match.capturedStart() - done);
+    resolved += QString::fromUcs4(&character, 1);
+    done = match.capturedEnd();
+  }
+  return resolved.append(QStringView(text).mid(done));
+}
+
+}  // namespace
+
+char32_t CharacterOfEntity(QStringView name) {
   if (name.startsWith(u'#')) {
     const bool hexadecimal = name.mid(1, 1).compare(u"x", Qt::CaseInsensitive) == 0;
     const char32_t code = name.mid(hexadecimal ? 2 : 1).toUInt(nullptr, hexadecimal ? 16 : 10);
@@ -54,23 +70,6 @@ char32_t CharacterOf(QStringView name) {
   const qsizetype latin = LatinEntities().indexOf(name);
   return latin < 0 ? 0 : static_cast<char32_t>(0xA0 + latin);
 }
-
-QString WithEntitiesResolved(const QString& text) {
-  static const QRegularExpression pattern(QStringLiteral("&(#?[0-9A-Za-z]{1,8});"));
-  QString resolved;
-  qsizetype done = 0;
-  for (auto matches = pattern.globalMatch(text); matches.hasNext();) {
-    const QRegularExpressionMatch match = matches.next();
-    const char32_t character = CharacterOf(match.capturedView(1));
-    if (character == 0) continue;
-    resolved += QStringView(text).mid(done, match.capturedStart() - done);
-    resolved += QString::fromUcs4(&character, 1);
-    done = match.capturedEnd();
-  }
-  return resolved.append(QStringView(text).mid(done));
-}
-
-}  // namespace
 
 QString WithoutMarkup(const QString& html) {
   static const QRegularExpression breaks(QStringLiteral("<(br|p|li|div)\\b[^<>]*>"),
@@ -87,13 +86,19 @@ QString Tidy(const QString& text) {
   for (const QChar character : text) {
     if (character.isSpace()) {
       blank = !tidy.isEmpty();
-    } else if (character.category() != QChar::Other_Control) {
+    } else if (character.category() != QChar::Other_Control &&
+               !QChar::isNonCharacter(character.unicode())) {
       if (blank) tidy += u' ';
       blank = false;
       tidy += character;
     }
   }
   return tidy;
+}
+
+QString AsMarkup(const std::string& text) {
+  const QString plain = QString::fromStdString(text);
+  return WithoutMarkup(plain) == Tidy(plain) ? plain : plain.toHtmlEscaped();
 }
 
 }  // namespace kalvon::exchange

@@ -47,6 +47,8 @@ struct Puzzle {
   std::string language = {};           ///< "sr" or "en", or empty if the file does not say.
   int width = 0;                       ///< Columns.
   int height = 0;                      ///< Rows.
+  int installments = 1;                ///< Into how many files of this program it is divided.
+  int join = join::none;               ///< How those are joined, one of `join`.
   std::vector<PuzzleCell> cells = {};  ///< Row by row, `width` x `height` of them.
   std::vector<PuzzleClue> clues =
       {};  ///< Those across before those down, each in the file's order.

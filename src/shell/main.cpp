@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <cstdlib>
+#include <charconv>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -12,10 +12,17 @@
 
 namespace {
 
+/// The number that the text begins with, or 0.
+int LeadingNumber(std::string_view text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
 /// The percentage of "--zoom PERCENT".
 std::optional<int> NamedZoom(std::span<char*> arguments) {
   for (std::size_t i = 0; i + 1 < arguments.size(); ++i)
-    if (std::string_view(arguments[i]) == "--zoom") return std::atoi(arguments[i + 1]);
+    if (std::string_view(arguments[i]) == "--zoom") return LeadingNumber(arguments[i + 1]);
   return std::nullopt;
 }
 

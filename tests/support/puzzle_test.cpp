@@ -124,13 +124,14 @@ void PuzzleTest::ExpectEditor(bool typed) {
   EXPECT_TRUE(glavni.rec_poz >= first && glavni.rec_poz < first + letter_boxes);
   EXPECT_TRUE(glavni.rec_poz == 0 || glavni.rec_poz < size);
   for (int i = 0; i < letter_boxes; ++i) {
-    const bool in_word = first + i < size;
-    const char letter = in_word ? text[static_cast<std::size_t>(first + i)] : '_';
+    const int place = first + i;
+    const bool in_word = place < size;
+    const char letter = in_word ? text[static_cast<std::size_t>(place)] : '_';
     const std::string shown = letter == '_' ? "_" : ShownLetter(letter, ChosenWriting());
     EXPECT_EQ(frm_glavni->txt_rec(i).Text(), in_word ? shown : "") << i;
     EXPECT_EQ(frm_glavni->lbl_rec(i).Visible(), in_word) << i;
     if (!in_word) continue;
-    const int number = size > letter_boxes ? first + i + 1 : (i + 1) % 10;
+    const int number = size > letter_boxes ? place + 1 : (i + 1) % 10;
     EXPECT_EQ(frm_glavni->lbl_rec(i).Caption(), std::to_string(number));
   }
   if (typed) return;

@@ -1,14 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Makes the media of the sample crosswords: media.py SAMPLES writes the packs
-there and names the media in the crosswords' tables and clues.
+"""Makes the media of the sample crosswords: media.py FOLDER writes them there.
 
 Needs python3-pil and python3-numpy.  Pictures are drawn four times as large
 and scaled down; sounds and the video are calculated.
 """
 import io
 import math
-import re
 import struct
 import sys
 from pathlib import Path
@@ -174,13 +172,6 @@ def whale():
         d.disc(10 + (k * 47) % 146, 106 + (k * 13) % 20, 1 + k % 3 * 0.6, None, (140, 190, 220), 0.6)
     return bitmap(d)
 
-
-# ------------------------------------------------------------ text
-
-PAINTER = """Ro|en je u Srpskoj Crwi 1832. godine. Slikao je portrete i prizore iz istorije, a pisao pesme, pripovetke i drame.
-
-Bio je u~iteq u vi{e srpskih varo{i. @iveo je u Skadarliji, gde mu danas stoji spomenik.
-"""
 
 # ------------------------------------------------------------ sound and music
 
@@ -414,41 +405,15 @@ def race():
                 + chunk(b"LIST", b"movi" + movie) + chunk(b"idx1", index))
 
 
-# ------------------------------------------------------------ packs
+# ------------------------------------------------------------ files
 
-# Crossword: for each medium its name, the beginning of the clue that gets it, and its maker.
-PACKS = {
-    "velika": (("camac.bmp", "Mali plitki ~amac", boat),
-               ("lipar.txt", "Pesnik i slikar, autor", lambda: PAINTER.replace("\n", "\r\n").encode()),
-               ("ton.wav", "Zvuk odre|ene visine", tone),
-               ("valcer.mid", "Dunav, Drina ili Tami{", waltz),
-               ("trka.avi", "Takmi~ewe u brzini", race)),
-    "zima1001": (("slika.bmp", "^etinar koji se kiti za praznike", spruce),),
-    "zima1002": (("slika.bmp", "Morski div iz romana", whale),),
-}
-UNIT = 1000
+MAKERS = {"camac.bmp": boat, "jela.bmp": spruce, "kit.bmp": whale, "ton.wav": tone,
+          "valcer.mid": waltz, "trka.avi": race}
 
 
 def main(folder):
-    for crossword, media in PACKS.items():
-        path = folder / (crossword + ".qvm")
-        lines = path.read_bytes()
-        table, pack = b"", b""
-        for name, clue, make in media:
-            content = make()
-            # The program finds a file behind three characters "0" at least.
-            while (len(content) - 1) % UNIT > 996:
-                content += b"\n"
-            pack += b"0" * (-len(pack) % UNIT) + content
-            table += f"/{name}/{len(content)}".encode()
-            prefix = b"/" + name.encode() + b"/"
-            lines, found = re.subn(rb"\$(?:" + re.escape(prefix) + rb")?" + re.escape(clue.encode()),
-                                   lambda _: b"$" + prefix + clue.encode(), lines)
-            if found != 1:
-                raise SystemExit(f"{found} clues in {path} begin with {clue!r}")
-        path.write_bytes(table + lines[lines.index(b"\r\n"):])
-        path.with_suffix(".qvd").write_bytes(pack)
-        print(f"{path.with_suffix('.qvd')}: {len(pack)} bytes, {table.decode()}")
+    for name, make in MAKERS.items():
+        (folder / name).write_bytes(make())
 
 
 if __name__ == "__main__":
