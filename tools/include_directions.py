@@ -33,7 +33,8 @@ ROWS = (
     Row(r"letters/", "letters/"),
     Row(r"crossword/", "crossword/|files/"),
     Row(r"exchange/", "exchange/|crossword/|letters/|files/", HOST),
-    Row(r"converter/", "converter/|exchange/|crossword/|letters/|files/", HOST),
+    Row(r"printing/", "printing/|crossword/|letters/|files/", HOST),
+    Row(r"converter/", "converter/|printing/|exchange/|crossword/|letters/|files/", HOST),
     Row(r"shell/toolkit/events/", TOOLKIT, HOST),
     Row(r"shell/toolkit/drawing/", TOOLKIT, HOST),
     Row(r"shell/toolkit/desktop/", TOOLKIT, HOST),
@@ -85,7 +86,7 @@ def row_of(name):
 
 
 def may_use_qt(name):
-    if name.startswith(("exchange/", "converter/")):  # The core alone is linked to them.
+    if name.startswith(("exchange/", "printing/", "converter/")):  # Only what they use is linked.
         return True
     in_toolkit = name.startswith("shell/toolkit/")
     return in_toolkit and (name.endswith(".cpp") or bool(PRIVATE_HEADER.match(name)))

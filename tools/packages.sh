@@ -15,6 +15,7 @@ build_packages=(
   python3
   qt6-base-dev
   qt6-multimedia-dev
+  qt6-svg-dev
 )
 
 # The plug-ins play sound, music and video; the music needs a General MIDI sound font as well.
