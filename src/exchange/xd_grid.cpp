@@ -23,6 +23,10 @@ QList<uint> CharactersOf(QStringView row) {
   return row.toString().normalized(QString::NormalizationForm_C).toUcs4();
 }
 
+bool HasBlank(QStringView row) {
+  return std::ranges::any_of(row, [](QChar c) { return c.isSpace(); });
+}
+
 std::string LetterOf(char32_t character, const XdRebus& rebus) {
   if (const auto found = rebus.find(character); found != rebus.end())
     return found->second.toStdString();
@@ -92,8 +96,7 @@ Puzzle ReadXdGrid(const std::vector<XdLine>& rows, const XdRebus& rebus, QString
   std::size_t place = 0;
   for (const XdLine& row : rows) {
     const QList<uint> characters = CharactersOf(row.text);
-    const bool has_blank = std::ranges::any_of(row.text, [](QChar c) { return c.isSpace(); });
-    if (characters.size() != width || has_blank) RefuseLine(row);
+    if (characters.size() != width || HasBlank(row.text)) RefuseLine(row);
     for (const char32_t character : characters) {
       puzzle.cells[place++] = CellOf(character, rebus, dot_is_block);
       has_special |= QChar::isLower(character);
@@ -110,7 +113,7 @@ bool ReadXdEntries(const std::vector<QStringView>& rows, const XdRebus& rebus, P
   if (rows.size() != static_cast<std::size_t>(puzzle.height)) return false;
   for (const QStringView row : rows) {
     const QList<uint> characters = CharactersOf(row);
-    if (characters.size() != puzzle.width) return false;
+    if (characters.size() != puzzle.width || HasBlank(row)) return false;
     std::ranges::copy(characters, std::back_inserter(all));
   }
   const std::set<char32_t> none = {dot, block, hole, unknown};

@@ -120,7 +120,8 @@ void ReadEntries(const Headers& headers, const XdSections& sections, const XdReb
   const auto header = headers.find(QStringLiteral("entries"));
   if (header == headers.end()) return;
   std::vector<QStringView> rows;
-  for (const QStringView row : QStringTokenizer{header->second.value, u' ', Qt::SkipEmptyParts})
+  const QString entries = header->second.value.simplified();
+  for (const QStringView row : QStringTokenizer{entries, u' ', Qt::SkipEmptyParts})
     rows.push_back(row);
   if (!ReadXdEntries(rows, rebus, puzzle)) RefuseLine(header->second.line);
 }

@@ -172,6 +172,7 @@ TEST(Xd, RefusesWhatBreaksTheRules) {
       {File("", "C T", "A1. x"), Matter::damaged_line, "6: C T"},
       {File("Installments: 3", "CAT", "A1. x"), Matter::damaged_line, "3: Installments: 3"},
       {File("Entries: AB", "CAT", "A1. x"), Matter::damaged_line, "3: Entries: AB"},
+      {File("Entries: C\t.", "CAT", "A1. x"), Matter::damaged_line, "3: Entries: C\t."},
       {File("Title: \xE7", "CAT", "A1. x"), Matter::damaged_line, "3: UTF-8"},
       {File("Form: barred", "CAT", "A1. x"), Matter::bars, ""},
       {File("", "", "A1. x"), Matter::no_section, "## Grid"},

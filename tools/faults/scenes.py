@@ -9,8 +9,6 @@ import struct
 import subprocess
 from typing import NamedTuple
 
-SAMPLES = pathlib.Path(__file__).parents[2] / "samples"
-
 
 class ScriptFailure(Exception):
     """The script cannot judge."""
@@ -19,6 +17,11 @@ class ScriptFailure(Exception):
 class Scene(NamedTuple):
     program: pathlib.Path
     root: pathlib.Path
+
+    @property
+    def samples(self):
+        """Made in the build to which the program belongs."""
+        return self.program.resolve().parents[2] / "made_samples"
 
     @property
     def files(self):
@@ -50,7 +53,7 @@ def three_installments(scene, place="crosswords"):
     folder.mkdir(parents=True)
     for number, mode in ((1, 0o640), (2, 0o604), (3, 0o664)):
         path = folder / f"zima100{number}.qvm"
-        shutil.copyfile(SAMPLES / path.name, path)
+        shutil.copyfile(scene.samples / path.name, path)
         path.chmod(mode)
     # The owner, user 1, group, mask and others, each with rights and a number.
     entries = ((1, 6, -1), (2, 4, 1), (4, 0, -1), (16, 4, -1), (32, 0, -1))
