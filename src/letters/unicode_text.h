@@ -14,8 +14,8 @@ namespace kalvon {
 char TakeLetter(std::string_view& text);
 
 /// A text in its stored form. Only letters are converted; all else is copied. Two Latin letters are
-/// a digraph but where words are known to hold both (as in "konjunktura") or a zero-width non-joiner
-/// parts them.
+/// a digraph but where words are known to hold both (as in "konjunktura") or a zero-width
+/// non-joiner parts them.
 std::string StoredText(std::string_view text);
 
 /// A stored text in letters of a script. In Latin script a zero-width non-joiner parts two letters
