@@ -10,6 +10,7 @@
 
 #include "converter/endings.h"
 #include "converter/media_files.h"
+#include "converter/pictures.h"
 #include "crossword/installments.h"
 #include "exchange/crossword_file.h"
 #include "exchange/format.h"
@@ -68,10 +69,6 @@ std::vector<Output> QvmOutputs(const HeadedCrossword& headed, const std::string&
   return outputs;
 }
 
-std::string TargetEnding(const std::string& target, const Options& options) {
-  return options.to.empty() ? exchange::EndingOf(target) : options.to;
-}
-
 /// Brings the media of a crossword's clues along, from its packs or the folder of the options and,
 /// for a format that has no packs, into that folder.
 void MoveMedia(HeadedCrossword& headed, const std::string& source, const std::string& target,
@@ -88,6 +85,7 @@ std::vector<Output> Outputs(const HeadedCrossword& headed, const std::string& ta
                             const Options& options, Remarks& remarks) {
   const std::string ending = TargetEnding(target, options);
   if (ending == "qvm") return QvmOutputs(headed, target, options, remarks);
+  if (IsPictureEnding(ending)) return {{target, PictureOf(headed, ending, options)}};
   const exchange::Format* const format = exchange::FormatOfEnding(ending);
   if (format == nullptr) throw ConversionError(Matter::unknown_target, TargetEndings());
   return {{target, format->write(exchange::Shown(headed, options.latin), remarks)}};
@@ -106,6 +104,10 @@ void Write(const std::vector<Output>& outputs, bool force) {
 }
 
 }  // namespace
+
+std::string TargetEnding(const std::string& target, const Options& options) {
+  return options.to.empty() ? exchange::EndingOf(target) : options.to;
+}
 
 bool Convert(const std::string& source, const std::string& target, const Options& options) {
   Remarks remarks;

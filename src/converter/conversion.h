@@ -11,6 +11,9 @@ namespace kalvon::converter {
 /// one a line. Whether it went well; if not, nothing has been written.
 bool Convert(const std::string& source, const std::string& target, const Options& options);
 
+/// The ending that says what is written to a target.
+std::string TargetEnding(const std::string& target, const Options& options);
+
 /// The target for a source in the options' folder.
 std::string TargetInFolder(const std::string& source, const Options& options);
 

@@ -45,6 +45,7 @@ enum class Matter {
   medium_refused,      ///< The program writes no file of this name or size, or the table lacks it.
   medium_cut,          ///< The pack ends before its end.
   medium_unplayable,   ///< It is not what its name says.
+  too_large_to_draw,
   too_large_to_write,  ///< The format has no room for the grid; the detail is its longest side.
   // Remarks.
   wrong_checksum,

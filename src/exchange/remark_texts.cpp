@@ -64,6 +64,7 @@ constexpr Sentence sentences[] = {
     {Matter::medium_cut, "Paket se završava pre kraja datoteke %", "The pack ends before %"},
     {Matter::medium_unplayable, "Sadržaj datoteke % nije ono što joj ime kaže",
      "% is not what its name says"},
+    {Matter::too_large_to_draw, "Slika bi bila prevelika", "The picture would be too large"},
     {Matter::too_large_to_write, "Format prima najviše % redova i isto toliko kolona",
      "The format takes no more than % rows and as many columns"},
     {Matter::wrong_checksum, "Kontrolni zbir nije tačan", "A checksum is wrong"},

@@ -48,7 +48,8 @@ double ClueFlow::Together(FlowPlace place) const {
     return height * static_cast<double>(divided ? 1 : left);
   }
   const FlowPlace next = {place.entry + 1, 0};
-  return height * static_cast<double>(left) + (next == End() ? 0 : Together(next));
+  const double first_clue = next == End() ? 0 : size_ * above_clue + Together(next);
+  return height * static_cast<double>(left) + first_clue;
 }
 
 FlowPlace ClueFlow::Set(FlowPlace from, std::span<const QRectF> frames, Drawing* drawing) const {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "crossword/cell.h"
@@ -65,16 +66,30 @@ class GridDrawing {
     for (int i = 0; i <= part_.rows; ++i) line(0, i * look_.cell, {width, 0}, pen(i, part_.rows));
   }
 
+  /// Where the cells are smaller than their numbers, only some have one.
   void DrawRulers() {
-    for (int x = part_.column; x < part_.column + part_.columns; ++x)
-      DrawRuler(x, PlaceOf(x, part_.row).translated(0, -(look_.cell + ruler) / 2));
-    for (int y = part_.row; y < part_.row + part_.rows; ++y)
-      DrawRuler(y, PlaceOf(part_.column, y).translated(-(look_.cell + ruler) / 2, 0));
+    const int last = part_.column + part_.columns - 1;
+    const double widest = RulerSize(last) * WidthOf(QString::number(last), false);
+    const double above = -(look_.cell + ruler) / 2;
+    const int step = StepFor(widest + 2);
+    for (int x = part_.column; x + step / 2 <= last; x += step)
+      DrawRuler(x, PlaceOf(x, part_.row).translated(0, above));
+    for (int y = part_.row; y < part_.row + part_.rows; y += StepFor(ruler_size))
+      DrawRuler(y, PlaceOf(part_.column, y).translated(above, 0));
+  }
+
+  /// Cells that a number takes.
+  [[nodiscard]] int StepFor(double length) const {
+    return static_cast<int>(std::ceil(length / look_.cell));
+  }
+
+  static double RulerSize(int number) {
+    return std::min(ruler_size, (ruler - 1) / WidthOf(QString::number(number), false));
   }
 
   void DrawRuler(int number, const QRectF& around) {
     const QString text = QString::number(number);
-    const double size = std::min(ruler_size, (ruler - 1) / WidthOf(text, false));
+    const double size = RulerSize(number);
     QRectF place(0, 0, WidthOf(text, false) * size, FaceHeight() * size);
     place.moveCenter(around.center());
     drawing_.texts.push_back({place, text, size});
