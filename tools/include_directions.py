@@ -42,6 +42,7 @@ ROWS = (
     Row(r"shell/toolkit/input/", TOOLKIT, HOST),
     Row(r"shell/toolkit/media/", TOOLKIT, HOST),
     Row(r"shell/toolkit/windows/", TOOLKIT, HOST),
+    Row(r"shell/toolkit/paper/", TOOLKIT, HOST),
     Row(r"shell/forms/", "shell/forms/|" + TOOLKIT),
     Row(RECORD, RECORD + "|crossword/|letters/"),
     Row(r"display/"),

@@ -7,13 +7,17 @@ namespace kalvon {
 
 bool IsLetterCell(std::string_view cell) { return !cell.empty() && cell.front() != '$'; }
 
+bool HasSolution(std::string_view cell) { return cell.front() != unknown_letter; }
+
 std::string_view UserLetter(std::string_view cell) {
   return cell.size() > 1 && cell[1] != '$' ? cell.substr(1, 1) : std::string_view{};
 }
 
 bool ShowsUserLetter(std::string_view cell) { return cell.size() > 2 && cell[2] == '$'; }
 
-bool IsWrong(std::string_view cell) { return ShowsUserLetter(cell) && cell[0] != cell[1]; }
+bool IsWrong(std::string_view cell) {
+  return ShowsUserLetter(cell) && HasSolution(cell) && cell[0] != cell[1];
+}
 
 std::string_view LettersIn(std::string_view cell) { return cell.substr(1, cell.find('$') - 1); }
 

@@ -14,13 +14,18 @@ namespace kalvon {
 inline constexpr std::string_view gray_block = "$1$";
 inline constexpr std::string_view black_square = "$2$";
 
+/// Stands for a solution letter that nobody has told.
+inline constexpr char unknown_letter = '?';
+
 /// Whether a word may lie in the cell: it is neither blocked nor empty.
 bool IsLetterCell(std::string_view cell);
+/// Whether the solution letter of a letter cell is known, so that it can be solved and checked.
+bool HasSolution(std::string_view cell);
 /// The user's letter in a letter cell, or "" without one.
 std::string_view UserLetter(std::string_view cell);
 /// Whether the cell shows a user's letter: the third character tells.
 bool ShowsUserLetter(std::string_view cell);
-/// Whether it shows one that is not the solution.
+/// Whether it shows one that is not the solution, which is known.
 bool IsWrong(std::string_view cell);
 /// What stands in a letter cell between the solution letter and the fields: the user's letter or
 /// nothing, if the cell is as it should be.

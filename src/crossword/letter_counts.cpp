@@ -14,10 +14,11 @@ LetterCounts CountLetters(const Crossword& crossword) {
       const std::string_view cell = crossword.ukr_polja(x, y, 1);
       if (!IsLetterCell(cell)) continue;
       ++counts.cells;
+      if (!HasSolution(cell)) ++counts.unknown;
       const std::string_view letter = UserLetter(cell);
       if (letter.empty()) continue;
       ++counts.filled;
-      if (letter.front() == cell.front()) ++counts.right;
+      if (HasSolution(cell) && letter.front() == cell.front()) ++counts.right;
     }
   }
   return counts;

@@ -93,6 +93,7 @@ struct CrosswordState : Crossword {
   // The shell's values.
   std::string app_staza;             ///< Folder of the program, ending in "\".
   Int16 jezik;                       ///< Language of the interface: 0 Serbian, 1 English.
+  std::vector<std::string> nedavne;  ///< Host paths of the crosswords opened last, newest first.
   Int16 pre_ucitavanja;              ///< 1 until the first crossword has been loaded.
   Int16 forma_sirina, forma_visina;  ///< Size at which the main form is held, in twips.
   Int16 pomoc_otvorena;              ///< 1 while the help panel is open.

@@ -16,15 +16,22 @@ enum class News {
   restored,  ///< Loaded, with letters that a killed program had not saved.
   waiting,   ///< Loaded, and steps wait that were not saved.
   load_failed,
+  open_failed,       ///< A file that was to be opened; the reason says why.
+  open_stopped,      ///< By the user, who found it too long.
+  other_language,    ///< The program of the other language opens it.
+  no_other_program,  ///< There is none.
   saved,
   save_failed,
-  typed,    ///< Letters are in the boxes that Enter will write.
-  untyped,  ///< The last of them is taken back.
+  not_written,  ///< In another format; the reason says why.
+  not_printed,  ///< The part of the program that prints is not installed.
+  typed,        ///< Letters are in the boxes that Enter will write.
+  untyped,      ///< The last of them is taken back.
   letter_refused,
   made,  ///< A step.
   undone,
   redone,
-  counted,  ///< Wrong letters.
+  counted,      ///< Wrong letters.
+  no_solution,  ///< Nothing could be done with cells whose solution is not known.
   no_empty_cell,
   nothing_selected,  ///< By a click on a cell with one word, whose direction was not at hand.
   no_crossing_word,
@@ -45,7 +52,9 @@ struct Vest {
   std::vector<FileNews> files = {};
   int count = 0;
   Refusal refusal = Refusal::no_letter;
-  int journal_error = 0;  ///< 0, or why the journal cannot be kept from now on.
+  int remarks = 0;          ///< That can be read in the menu.
+  std::string reason = {};  ///< In the language and script of the program.
+  int journal_error = 0;    ///< 0, or why the journal cannot be kept from now on.
 };
 
 }  // namespace kalvon

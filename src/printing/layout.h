@@ -16,12 +16,12 @@ namespace kalvon::printing {
 
 struct Box {
   QRectF place;
-  double shade;
+  double shade = 0;
 };
 
 struct Stroke {
   QLineF line;
-  double width;
+  double width = 0;
   double shade = 0;
 };
 
@@ -29,14 +29,14 @@ struct Stroke {
 struct Text {
   QRectF place;  ///< From the ascent to the descent of the face.
   QString text;
-  double size;
+  double size = 0;
   bool bold = false;
 };
 
 /// Says that a clue has a medium.
 struct Sign {
   QRectF place;
-  Medium medium;
+  Medium medium{};
 };
 
 /// Drawn in this order.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/events.h"
 
+#include <string>
+#include <vector>
+
 #include "display/clue_lists.h"
 #include "display/grid_scroll.h"
 #include "display/repaint.h"
@@ -9,6 +12,7 @@
 #include "multimedia/media_pane.h"
 #include "shell/browser_link.h"
 #include "shell/commands.h"
+#include "shell/file_opening.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/forms/frm_help.h"
 #include "shell/forms/frm_opcije.h"
@@ -61,6 +65,7 @@ void BindMainForm(FrmGlavni& form) {
     iscrtaj_sve();
     ShowZoom();
   };
+  form.FilesDropped = [](const std::vector<std::string>& paths) { otvori_fajl(paths.front()); };
   form.ZoomWheel = [](bool away) { away ? uvecaj() : umanji(); };
   form.Activate = nastavi_vreme;
   form.Deactivate = zastani_vreme;

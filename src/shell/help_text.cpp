@@ -72,7 +72,7 @@ Ctrl+Z, Ctrl+Y - undo and redo, back to the first step
 Ctrl+L - solves the letter of the box
 Ctrl+R, Ctrl+B - solve and erase the word; with Shift, the puzzle
 Ctrl+N - goes to the next word with an empty cell
-Ctrl+P - counts the incorrect letters; with Shift, erases them
+Ctrl+K - counts the incorrect letters; with Shift, erases them
 Ctrl and +, -, 0 or the mouse wheel, F11 - the size of the window, full screen
 Ctrl+T, F1 - options, help
 Ctrl and an arrow - goes to the next cell of the grid, over the black ones

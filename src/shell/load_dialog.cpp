@@ -148,4 +148,19 @@ void opis_fajla() {
   dialog.lbl_ucit.Caption(Description(header));
 }
 
+void ucitaj_iz(const std::string& path) {
+  auto& dialog = *frm_ucit_snimi;
+  glavni.dijalog_rezim = load_mode;
+  const std::size_t name = path.rfind('\\') + 1;
+  const int failure = pass_over([&] {
+    dialog.Drive1.Drive(path.substr(0, 3));
+    dialog.Dir1.Path(path.substr(0, name));
+    dialog.File1.Path(dialog.Dir1.Path());
+  });
+  if (failure == 0) dialog.txt_ucit.Text(path.substr(name));
+  zatvori_media();
+  ucitaj_ukrstenicu();
+  FocusLetters();
+}
+
 }  // namespace kalvon

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 namespace kalvon {
 
 /// Opens the dialog over the main form: 0 to load, 1 to save.
@@ -21,5 +23,9 @@ void opis_fajla();
 /// Reads the folder of the dialog anew, and shows what is there now. The chosen file stays chosen
 /// as long as it is there.
 void RereadFolder();
+
+/// Loads a crossword by its path, with its neighbours, as if it were chosen in the dialog, which
+/// then stands in its folder.
+void ucitaj_iz(const std::string& path);
 
 }  // namespace kalvon

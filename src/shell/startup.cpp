@@ -19,6 +19,7 @@
 #include "shell/forms/frm_ucit_snimi.h"
 #include "shell/language.h"
 #include "shell/options_dialog.h"
+#include "shell/recent_files.h"
 #include "shell/spoken_names.h"
 #include "shell/spoken_pictures.h"
 #include "shell/strip.h"
@@ -114,6 +115,7 @@ void Start() {
   DisableWhatNeedsACrossword();
   ucitaj_ini();
   ucitaj_izbor();
+  ucitaj_nedavne();
   primeni_kontrast();
   glavni.pomoc_otvorena = 0;
   ChooseFont();

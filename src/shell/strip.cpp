@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "shell/strip.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "document/crossword_state.h"
 #include "document/settings.h"
+#include "files/folder_entries.h"
 #include "multimedia/media_pane.h"
 #include "shell/commands.h"
 #include "shell/contrast.h"
+#include "shell/file_opening.h"
+#include "shell/file_saving.h"
 #include "shell/forms/frm_glavni.h"
 #include "shell/help.h"
+#include "shell/remarks.h"
 #include "shell/strip_texts.h"
 #include "shell/toolkit/windows/strip.h"
 #include "shell/zoom.h"
@@ -99,7 +105,30 @@ struct MenuCommand {
   void (*action)() = nullptr;
   bool (*checked)() = nullptr;
   std::span<const MenuCommand> more = {};  ///< What a command without action opens.
+  /// Or what it opens, as it is at the moment.
+  std::vector<toolkit::MenuRow> (*rows)(const std::string& submenu) = nullptr;
 };
+
+/// A row for each crossword that was opened last: its name, and its folder.
+std::vector<toolkit::MenuRow> RecentRows(const std::string& submenu) {
+  std::vector<toolkit::MenuRow> rows;
+  for (const std::string& path : glavni.nedavne) {
+    const std::size_t name = path.rfind('/') + 1;
+    std::string text = path.substr(name) + "  (" + path.substr(0, name) + ')';
+    for (std::size_t i = 0; (i = text.find('&', i)) != std::string::npos; i += 2)
+      text.insert(i, 1, '&');
+    rows.push_back({.text = text,
+                    .enabled = [path] { return NoHelpPanel() && files::Exists(path); },
+                    .action = [path] { otvori_fajl(path); },
+                    .submenu = submenu});
+  }
+  return rows;
+}
+
+template <printing::Contents Contents>
+void Print() {
+  stampaj(Contents);
+}
 
 constexpr MenuCommand movements[] = {
     {{"Polje levo", "Cell to the left"}, "Ctrl+Left", OnCrossword, MoveCell<-1, 0>},
@@ -128,6 +157,18 @@ constexpr MenuCommand movements[] = {
      "Esc",
      CanLeave,
      Leave},
+};
+
+constexpr MenuCommand printouts[] = {
+    {{"Sa upisanim slovima…", "With your letters…"},
+     "Ctrl+P",
+     OnCrossword,
+     Print<printing::Contents::users_letters>},
+    {{"Prazna…", "Empty…"}, "", OnCrossword, Print<printing::Contents::empty>},
+    {{"Prazna, sa rešenjem na kraju…", "Empty, with the solution at the end…"},
+     "",
+     OnCrossword,
+     Print<printing::Contents::solution>},
 };
 
 constexpr MenuCommand views[] = {
@@ -167,7 +208,12 @@ constexpr MenuCommand choices[] = {
 
 constexpr MenuCommand menu_commands[] = {
     {{"Učitaj ukrštenicu…", "Load crossword…"}, "Ctrl+O", NoHelpPanel, Press<command::load>},
+    {{"Otvori…", "Open…"}, "Ctrl+Shift+O", NoHelpPanel, otvori},
+    {.text = {"Nedavne", "Recent"}, .rows = RecentRows},
+    {{"Primedbe…", "Remarks…"}, "", HasRemarks, pokazi_primedbe},
     {{"Snimi", "Save"}, "Ctrl+S", OnCrossword, Press<command::save>},
+    {{"Sačuvaj kao…", "Save as…"}, "Ctrl+Shift+S", OnCrossword, sacuvaj_kao},
+    {.text = {"Štampaj", "Print"}, .more = printouts},
     {{"Kraj", "Exit"}, "Ctrl+Q", Always, Press<command::end>},
     {},
     {{"Poništi", "Undo"}, "Ctrl+Z", Undoable, ponisti},
@@ -195,11 +241,11 @@ constexpr MenuCommand menu_commands[] = {
      OnCrossword,
      OnPuzzle<PuzzleOperation::erase_all>},
     {{"Prebroj pogrešna slova", "Count wrong letters"},
-     "Ctrl+P",
+     "Ctrl+K",
      OnCrossword,
      OnPuzzle<PuzzleOperation::count_wrong>},
     {{"Obriši pogrešna slova", "Erase wrong letters"},
-     "Ctrl+Shift+P",
+     "Ctrl+Shift+K",
      OnCrossword,
      OnPuzzle<PuzzleOperation::erase_wrong>},
     {},
@@ -212,8 +258,9 @@ constexpr MenuCommand menu_commands[] = {
     {{"O programu", "About"}, "Ctrl+F1", Always, About},
 };
 
-/// Steps of which the menu speaks.
+/// Steps and crosswords of which the menu speaks.
 std::size_t shown_steps = 0;
+std::vector<std::string> shown_files;
 
 /// Hours and minutes, as "0:07".
 std::string Hours(std::uint64_t seconds) {
@@ -246,17 +293,21 @@ toolkit::MenuRow RowOf(const MenuCommand& command, const StripText& submenu) {
 
 void ShowStripMenu() {
   shown_steps = EarlierSteps();
+  shown_files = glavni.nedavne;
   constexpr StripText caption = {"Meni", "Menu"};
   std::vector<toolkit::MenuRow> rows;
   for (const MenuCommand& command : menu_commands) {
-    if (command.more.empty()) rows.push_back(RowOf(command, {}));
+    if (command.rows != nullptr)
+      std::ranges::move(command.rows(Shown(command.text)), std::back_inserter(rows));
+    else if (command.more.empty())
+      rows.push_back(RowOf(command, {}));
     for (const MenuCommand& more : command.more) rows.push_back(RowOf(more, command.text));
   }
   frm_glavni->strip.Menu(Shown(caption), rows);
 }
 
 void UpdateStrip() {
-  if (EarlierSteps() != shown_steps) ShowStripMenu();
+  if (EarlierSteps() != shown_steps || glavni.nedavne != shown_files) ShowStripMenu();
   frm_glavni->strip.Text(NewsText());
   frm_glavni->strip.Status(Status());
   frm_glavni->Modified(glavni.izmenjeno);

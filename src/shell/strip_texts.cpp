@@ -122,11 +122,25 @@ constexpr StripText waiting = {
     "%: letters that were not saved wait; Ctrl+Y brings them back, step by step."};
 constexpr StripText no_journal = {"Bez dnevnika: %. ", "No journal: %. "};
 constexpr StripText not_loaded = {"Nije učitano: %.", "Not loaded: %."};
+constexpr StripText open_stopped = {"Otvaranje je prekinuto.", "Opening was stopped."};
+constexpr StripText other_language = {"Ukrštenica je na engleskom; otvara je program `kalvon-en`.",
+                                      "The crossword is in Serbian; kalvon opens it."};
+constexpr StripText no_other_program = {
+    "Ukrštenica je na engleskom, a programa `kalvon-en` ovde nema.",
+    "The crossword is in Serbian, and its program, kalvon, is not here."};
+constexpr StripText remarked = {" Primedbe (vidi meni): %.", " Remarks (see the menu): %."};
 constexpr StripText saved = {"Snimljeno: %.", "Saved: %."};
 constexpr StripText not_saved = {"Nije snimljeno: %.", "Not saved: %."};
+constexpr StripText not_printed = {"Deo programa koji štampa nije instaliran.",
+                                   "The part of the program that prints is not installed."};
 constexpr StripText typed = {"`Enter` upisuje slova u ukrštenicu.",
                              "Enter writes the letters into the puzzle."};
 constexpr StripText counted = {"Pogrešnih slova: %.", "Wrong letters: %."};
+constexpr StripText no_solution = {
+    "Ukrštenica nema rešenje: nema sa čim da se uporedi.",
+    "The puzzle has no solution: there is nothing to check against."};
+constexpr StripText unknown_cells = {"Polja bez rešenja, u kojima nema sa čim da se uporedi: %.",
+                                     "Cells without a solution to check against: %."};
 constexpr StripText no_empty_cell = {"Nema više praznih polja.", "No cell is empty any more."};
 constexpr StripText nothing_selected = {
     "U ovom polju je samo jedna reč; vraća je klik na njeno pitanje.",
@@ -164,6 +178,21 @@ std::string SaveText(const Vest& vest) {
   return text;
 }
 
+/// Empty for a crossword whose solution is known everywhere.
+std::string UnknownText() {
+  const LetterCounts& slova = glavni.slova;
+  if (slova.unknown == 0) return "";
+  return slova.unknown == slova.cells ? Shown(no_solution)
+                                      : Shown(unknown_cells, std::to_string(slova.unknown));
+}
+
+std::string CountedText(int wrong) {
+  const LetterCounts& slova = glavni.slova;
+  if (slova.unknown == 0) return Shown(counted, std::to_string(wrong));
+  if (slova.unknown == slova.cells) return UnknownText();
+  return Shown(counted, std::to_string(wrong)) + ' ' + UnknownText();
+}
+
 /// What happened, without the journal.
 std::string TextOf(const Vest& vest) {
   const StepText& step = TextOf(vest.step);
@@ -178,9 +207,21 @@ std::string TextOf(const Vest& vest) {
       return Shown(waiting, Files(vest, false));
     case News::load_failed:
       return Shown(not_loaded, Files(vest, true));
+    case News::open_failed:
+      return Shown(not_loaded, vest.reason);
+    case News::open_stopped:
+      return Shown(open_stopped);
+    case News::other_language:
+      return Shown(other_language);
+    case News::no_other_program:
+      return Shown(no_other_program);
     case News::saved:
     case News::save_failed:
       return SaveText(vest);
+    case News::not_written:
+      return Shown(not_saved, vest.reason);
+    case News::not_printed:
+      return Shown(not_printed);
     case News::typed:
       return Shown(typed);
     case News::untyped:
@@ -195,7 +236,9 @@ std::string TextOf(const Vest& vest) {
     case News::redone:
       return Shown(redone, Shown(step.name));
     case News::counted:
-      return Shown(counted, std::to_string(vest.count));
+      return CountedText(vest.count);
+    case News::no_solution:
+      return UnknownText();
     case News::no_empty_cell:
       return Shown(no_empty_cell);
     case News::nothing_selected:
@@ -225,7 +268,9 @@ std::string NewsText() {
   const Vest& vest = glavni.vest;
   const std::string journal =
       vest.journal_error == 0 ? "" : Shown(no_journal, Reason(vest.journal_error));
-  return journal + TextOf(vest);
+  const std::string remarks =
+      vest.remarks == 0 ? "" : Shown(remarked, std::to_string(vest.remarks));
+  return journal + TextOf(vest) + remarks;
 }
 
 }  // namespace kalvon

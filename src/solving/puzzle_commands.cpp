@@ -41,7 +41,7 @@ void ChangeWord(StepKind kind, void (*change)(std::string& cell)) {
 std::string Changed(const std::string& cell, PuzzleOperation operation) {
   switch (operation) {
     case PuzzleOperation::solve_all:
-      return WithUserLetter(cell, cell.front());
+      return HasSolution(cell) ? WithUserLetter(cell, cell.front()) : cell;
     case PuzzleOperation::erase_all:
       return WithoutUserLetter(cell);
     case PuzzleOperation::erase_wrong:
@@ -59,8 +59,9 @@ StepKind KindOf(PuzzleOperation operation) {
 }  // namespace
 
 void resi_rec() {
-  ChangeWord(StepKind::word_solved,
-             [](std::string& cell) { cell.replace(1, UserLetter(cell).size(), 1, cell.front()); });
+  ChangeWord(StepKind::word_solved, [](std::string& cell) {
+    if (HasSolution(cell)) cell.replace(1, UserLetter(cell).size(), 1, cell.front());
+  });
 }
 
 void brisi_rec() {

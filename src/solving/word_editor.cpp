@@ -158,6 +158,10 @@ void resi_slovo() {
   if (place >= LettersInEditor()) return;
   const GridCell cell = glavni.rec_polja.at(static_cast<std::size_t>(place));
   const std::string& text = glavni.ukr_polja(cell.x, cell.y, 1);
+  if (!HasSolution(text)) {
+    glavni.vest = {.news = News::no_solution};
+    return;
+  }
   std::string typed = glavni.rec_tekst;
   typed[static_cast<std::size_t>(place)] = text.front();
   Step step = BeginStep(StepKind::letter_solved);

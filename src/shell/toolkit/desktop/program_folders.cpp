@@ -61,12 +61,16 @@ ProgramFolders FindProgramFolders(const std::string& program) {
     found.own = Spoken(found.error == 0 ? data : PassingFolder(data));
   }
   if (installed) {
-    const QString crosswords =
-        UserFolder(QStandardPaths::DocumentsLocation, QStringLiteral("Ukrstenice"));
-    const bool is_there = !crosswords.isEmpty() && QDir().mkpath(crosswords);
-    found.crosswords = is_there ? Spoken(crosswords) : found.shipped + "\\primeri";
+    const std::string crosswords = CrosswordFolder();
+    found.crosswords = crosswords.empty() ? found.shipped + "\\primeri" : crosswords;
   }
   return found;
+}
+
+std::string CrosswordFolder() {
+  const QString folder =
+      UserFolder(QStandardPaths::DocumentsLocation, QStringLiteral("Ukrstenice"));
+  return !folder.isEmpty() && QDir().mkpath(folder) ? Spoken(folder) : "";
 }
 
 }  // namespace toolkit

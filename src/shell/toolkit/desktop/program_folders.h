@@ -21,4 +21,8 @@ struct ProgramFolders {
 /// user has no such folder, or its disk is full, one that ends with the program takes its place.
 ProgramFolders FindProgramFolders(const std::string& program);
 
+/// The user's folder for crosswords, made if it is missing; a path of the logic. Empty if he has
+/// none.
+std::string CrosswordFolder();
+
 }  // namespace toolkit

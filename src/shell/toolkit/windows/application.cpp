@@ -2,8 +2,10 @@
 #include "shell/toolkit/windows/application.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 #include <csignal>
@@ -83,6 +85,13 @@ bool IsUserInput(QEvent::Type type) {
   }
 }
 
+/// Whether files are dragged, which belong to the window and to none of its controls.
+bool CarriesFiles(const QEvent& event) {
+  const bool drags = event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
+                     event.type() == QEvent::Drop;
+  return drags && static_cast<const QDropEvent&>(event).mimeData()->hasUrls();
+}
+
 /// Keeps the user's input from disabled forms, before it can even move the focus, and gives a form
 /// the keys of its shortcuts before a control sees them.
 class GatedApplication : public QApplication {
@@ -90,7 +99,9 @@ class GatedApplication : public QApplication {
   using QApplication::QApplication;
 
   bool notify(QObject* receiver, QEvent* event) override {
-    const auto* widget = qobject_cast<QWidget*>(receiver);
+    auto* const widget = qobject_cast<QWidget*>(receiver);
+    if (widget != nullptr && CarriesFiles(*event))
+      return Form::TakesInput(widget->window()) && QApplication::notify(widget->window(), event);
     if (widget != nullptr && IsUserInput(event->type())) {
       if (!Form::TakesInput(widget->window())) return true;
       if (event->type() == QEvent::Wheel &&
@@ -103,6 +114,17 @@ class GatedApplication : public QApplication {
     return QApplication::notify(receiver, event);
   }
 };
+
+/// A word of a command line, as desktop entries write it.
+std::string Quoted(const std::string& word) {
+  std::string quoted = "\"";
+  for (const char c : word) {
+    if (std::string_view("\"\\$`").find(c) != std::string_view::npos) quoted += '\\';
+    if (c == '%') quoted += '%';
+    quoted += c;
+  }
+  return quoted + '"';
+}
 
 }  // namespace
 
@@ -143,6 +165,11 @@ void MsgBox(const std::string& text) {
 }
 
 void Shell(const std::string& command_line) { CurrentBrowserHost().Start(command_line); }
+
+void StartBeside(const std::string& program, const std::string& file) {
+  Shell(Quoted(QApplication::applicationDirPath().toStdString() + '/' + program) + ' ' +
+        Quoted(file));
+}
 
 int GetFocus() { return HandleOf(QApplication::focusWidget()); }
 

@@ -35,6 +35,10 @@ void MsgBox(const std::string& text);
 /// if it cannot be started.
 void Shell(const std::string& command_line);
 
+/// Starts a program that lies beside this one with a file, by its path of the host. Errors as for
+/// Shell.
+void StartBeside(const std::string& program, const std::string& file);
+
 /// The handle of the control that has the keyboard focus, 0 if none has.
 int GetFocus();
 

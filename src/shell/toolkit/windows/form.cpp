@@ -3,11 +3,14 @@
 
 #include <QAccessibleWidget>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QMimeData>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QUrl>
 #include <QWheelEvent>
 #include <QWindow>
 #include <algorithm>
@@ -59,6 +62,19 @@ std::string SpelledAlike(const QKeySequence& keys) {
 FormWidget::FormWidget(Form& form, Border border)
     : QWidget(nullptr, WindowFlags(border)), form_(form) {
   QAccessible::installFactory(Accessible);
+  setAcceptDrops(true);
+}
+
+void FormWidget::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void FormWidget::dropEvent(QDropEvent* event) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : event->mimeData()->urls())
+    if (url.isLocalFile()) paths.push_back(url.toLocalFile().toStdString());
+  event->acceptProposedAction();
+  if (!paths.empty()) form_.FilesDropped.Raise(paths);
 }
 
 QAccessibleInterface* FormWidget::Accessible(const QString& /*class_name*/, QObject* object) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "shell/toolkit/controls/container.h"
 #include "shell/toolkit/events/event.h"
@@ -84,6 +85,8 @@ class Form : public Window {
   Event<> Rescaled;
   /// The wheel was turned with Ctrl, away from the user or towards him.
   Event<bool> ZoomWheel;
+  /// Files were dropped on the window, by their paths of the host in UTF-8; at least one.
+  Event<const std::vector<std::string>&> FilesDropped;
   /// The keyboard comes to this window, or goes to another one, or to none.
   Event<> Activate;
   Event<> Deactivate;
