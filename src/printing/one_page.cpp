@@ -12,6 +12,7 @@ namespace {
 constexpr double smallest_letters = 8;
 constexpr double largest_letters = 11;
 constexpr double letters_step = 0.5;
+constexpr int letters_steps = 6;  // From the largest to the smallest.
 constexpr double cell_step = 0.1;
 
 double Worth(const OnePage& page) { return page.letters * page.cell; }
@@ -56,7 +57,8 @@ std::optional<OnePage> BestPage(std::span<const Entry> entries, QSize grid, cons
   for (const int count : {3, 2}) {
     const Columns columns = {body, count};
     const Taken bottom = solution(columns);
-    for (double letters = largest_letters; letters >= smallest_letters; letters -= letters_step) {
+    for (int step = 0; step <= letters_steps; ++step) {
+      const double letters = largest_letters - step * letters_step;
       const ClueFlow flow(entries, letters, columns.Width());
       for (int spanned = 1; spanned <= count; ++spanned) {
         OnePage page = {columns, spanned, letters};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "printing/printing.h"
 
+#include <gtest/gtest.h>
+
 #include <QImage>
 #include <QRegularExpression>
 #include <random>
