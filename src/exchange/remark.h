@@ -42,9 +42,9 @@ enum class Matter {
   cell_form,         ///< A cell string that breaks its form.
   start_on_block,
   clue_not_closed,
-  medium_refused,      ///< The program writes no file of this name or size, or the table lacks it.
-  medium_cut,          ///< The pack ends before its end.
-  medium_unplayable,   ///< It is not what its name says.
+  medium_refused,     ///< The program writes no file of this name or size, or the table lacks it.
+  medium_cut,         ///< The pack ends before its end.
+  medium_unplayable,  ///< It is not what its name says.
   too_large_to_draw,
   too_large_to_write,  ///< The format has no room for the grid; the detail is its longest side.
   // Remarks.

@@ -68,6 +68,8 @@ Should the disk be full or the file be protected, the file stays as it was, and 
 
 The line under the grid says what just happened and how many cells are filled; Show time in its menu, under View, adds the hours and minutes that you have spent on the crossword. Its button Menu, or the key F10, shows every command with its keys:
 Ctrl+O, Ctrl+S, Ctrl+Q - load, save, exit
+Ctrl+Shift+O - opens a crossword of another program: ipuz, puz, jpz or xd; so does dropping it here
+Ctrl+Shift+S, Ctrl+P - writes such a file, or a PDF; prints
 Ctrl+Z, Ctrl+Y - undo and redo, back to the first step
 Ctrl+L - solves the letter of the box
 Ctrl+R, Ctrl+B - solve and erase the word; with Shift, the puzzle
