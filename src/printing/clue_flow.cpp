@@ -40,16 +40,16 @@ double ClueFlow::SizeOf(std::size_t entry) const {
 
 double ClueFlow::LineHeight(std::size_t entry) const { return SizeOf(entry) * line_pitch; }
 
-double ClueFlow::Together(FlowPlace place) const {
+double ClueFlow::Undivided(FlowPlace place) const {
   const std::size_t left = lines_[place.entry].size() - place.line;
-  const double height = LineHeight(place.entry);
-  if (!IsHeading(place.entry)) {
-    const bool divided = place.line > 0 || left > undivided_lines;
-    return height * static_cast<double>(divided ? 1 : left);
-  }
+  const bool divided = !IsHeading(place.entry) && (place.line > 0 || left > undivided_lines);
+  return LineHeight(place.entry) * static_cast<double>(divided ? 1 : left);
+}
+
+double ClueFlow::Together(FlowPlace place) const {
   const FlowPlace next = {place.entry + 1, 0};
-  const double first_clue = next == End() ? 0 : size_ * above_clue + Together(next);
-  return height * static_cast<double>(left) + first_clue;
+  if (!IsHeading(place.entry) || next == End()) return Undivided(place);
+  return Undivided(place) + size_ * above_clue + Undivided(next);
 }
 
 FlowPlace ClueFlow::Set(FlowPlace from, std::span<const QRectF> frames, Drawing* drawing) const {
@@ -63,8 +63,11 @@ FlowPlace ClueFlow::Set(FlowPlace from, std::span<const QRectF> frames, Drawing*
 
       const double height = LineHeight(place.entry);
       const std::size_t end = lines_[place.entry].size();
-      for (; place.line < end && y + height <= frame.bottom(); ++place.line, y += height)
+      while (place.line < end && y + height <= frame.bottom()) {
         if (drawing) Draw(place, {frame.left(), y}, *drawing);
+        ++place.line;
+        y += height;
+      }
       if (place.line < end) break;
       place = {.entry = place.entry + 1, .line = 0};
     }

@@ -33,7 +33,9 @@ class ClueFlow {
   [[nodiscard]] FlowPlace End() const { return {.entry = entries_.size(), .line = 0}; }
 
  private:
-  /// Lines that stand together in the rest of a frame.
+  /// The lines of an entry that no frame divides.
+  [[nodiscard]] double Undivided(FlowPlace place) const;
+  /// The same, with the first clue below a heading.
   [[nodiscard]] double Together(FlowPlace place) const;
   [[nodiscard]] bool IsHeading(std::size_t entry) const { return entries_[entry].number.isEmpty(); }
   [[nodiscard]] double SizeOf(std::size_t entry) const;

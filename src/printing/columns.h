@@ -13,7 +13,7 @@ namespace kalvon::printing {
 /// Columns of clues in a part of a page, all of one width.
 struct Columns {
   QRectF body;
-  int count;
+  int count = 0;
 
   /// Of some columns side by side, with the gaps between them.
   [[nodiscard]] double Width(int columns = 1) const;

@@ -10,18 +10,18 @@ namespace kalvon::printing {
 
 /// A part of a grid, counted from 1.
 struct GridPart {
-  int column;
-  int row;
-  int columns;
-  int rows;
+  int column = 0;
+  int row = 0;
+  int columns = 0;
+  int rows = 0;
 };
 
 enum class Letters { none, users, solution };
 
 /// How a grid is drawn. Lengths are points.
 struct GridLook {
-  double cell;          ///< Side of a cell.
-  Letters letters;      ///< In the cells.
+  double cell = 0;      ///< Side of a cell.
+  Letters letters{};    ///< In the cells.
   bool numbers = true;  ///< Of the clues.
   bool rulers = false;  ///< Numbers of the columns above, and of the rows to the left.
 };

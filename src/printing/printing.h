@@ -13,9 +13,9 @@ namespace kalvon::printing {
 
 /// A sheet of paper. All lengths are points, 72 to the inch.
 struct Paper {
-  double width;
-  double height;
-  double margin;  ///< Free on all four sides.
+  double width = 0;
+  double height = 0;
+  double margin = 0;  ///< Free on all four sides.
 };
 inline constexpr Paper a4 = {595.276, 841.89, 40};
 inline constexpr Paper letter = {612, 792, 40};

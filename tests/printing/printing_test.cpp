@@ -28,14 +28,15 @@ Sheet RandomSheet(int width, int height) {
     cell = {.solution = letters[random() % 8], .entry = random() % 2 == 0 ? "A" : ""};
     if (random() % 5 == 0) cell = {.kind = exchange::CellKind::block};
   }
-  for (const int direction : {direction::across, direction::down})
-    for (const exchange::WordStart& start : exchange::WordStarts(puzzle))
-      if (BelongsTo(start.kind, direction)) {
-        std::string text = "Red";
-        for (auto words = random() % 12; words > 0; --words)
-          text += ' ' + std::to_string(random() % 100000);
-        puzzle.clues.push_back({.direction = direction, .cell = start.cell, .text = text});
-      }
+  for (const int direction : {direction::across, direction::down}) {
+    for (const exchange::WordStart& start : exchange::WordStarts(puzzle)) {
+      if (!BelongsTo(start.kind, direction)) continue;
+      std::string text = "Red";
+      for (auto words = random() % 12; words > 0; --words)
+        text += ' ' + std::to_string(random() % 100000);
+      puzzle.clues.push_back({.direction = direction, .cell = start.cell, .text = text});
+    }
+  }
   exchange::Remarks remarks;
   return {.crossword = exchange::Store(puzzle, {exchange::Language::serbian}, remarks).crossword,
           .title = "Šesnaest ljudi",

@@ -25,6 +25,7 @@ QFunctionPointer PrintFunction() {
 }  // namespace
 
 void Print(const std::string& title, const PagesFor& pages) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the host does not know its type.
   const auto print = reinterpret_cast<decltype(&KalvonPrint)>(PrintFunction());
   print(QApplication::activeWindow(), title, pages);
   if (Ended()) throw ProgramEnd{};
