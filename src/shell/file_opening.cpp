@@ -84,7 +84,7 @@ std::string Stored(Reading& read, const std::string& source) {
   const std::uint64_t content = ContentOf(read.headed.crossword);
   for (int copy = 1; copy <= most_copies; ++copy) {
     const std::string base = exchange::MadeName(fs::path(source).stem().string(), copy);
-    const std::string path = (folder / exchange::QvmName(base, whole, 1)).string();
+    std::string path = (folder / exchange::QvmName(base, whole, 1)).string();
     if (LiesAt(path, content)) return path;
     if (files::Exists(path)) continue;
     exchange::WriteBytes(path, files.front().crossword);

@@ -38,7 +38,8 @@ std::string FirstFile() {
 
 /// The crossword on the screen, with what its files say of it.
 exchange::HeadedCrossword OnScreen() {
-  exchange::HeadedCrossword headed{.crossword = glavni, .english = glavni.jezik == 1};
+  exchange::HeadedCrossword headed{.crossword = static_cast<const Crossword&>(glavni),
+                                   .english = glavni.jezik == 1};
   if (glavni.nast_zadnji > 1) headed.division = {glavni.nast_zadnji, glavni.nast_smer};
   files::pass_over([&] {
     files::TextReader file(FirstFile(), files::as_the_first_line);
