@@ -47,7 +47,7 @@ Answered AnsweredOf(QStringView rest) {
   qsizetype first = pieces.size() - 1;
   while (first > 1 && !HasSmallLetter(pieces[first - 1])) --first;
   Answered answered{
-      rest.left(pieces[first].begin() - rest.begin() - before_answer.size()), pieces[first], {}};
+      rest.left(pieces[first].data() - rest.data() - before_answer.size()), pieces[first], {}};
   const QStringView last = pieces.last();
   if (const qsizetype split = last.indexOf(before_split_answer); split >= 0) {
     answered.split_answer = FirstWord(last.mid(split + before_split_answer.size()));
