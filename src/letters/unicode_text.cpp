@@ -69,13 +69,20 @@ bool AreTwo(std::string_view small, std::size_t place) {
   });
 }
 
+/// Whether a text may begin so, by its first byte, which tells most letters apart.
+bool MayBegin(std::string_view text, std::string_view beginning) {
+  return !text.empty() && !beginning.empty() && text.front() == beginning.front();
+}
+
 bool TakeOff(std::string_view& text, std::string_view beginning) {
-  if (beginning.empty() || !text.starts_with(beginning)) return false;
+  if (!MayBegin(text, beginning) || !text.starts_with(beginning)) return false;
   text.remove_prefix(beginning.size());
   return true;
 }
 
 char TakeCyrillic(std::string_view& text) {
+  const bool is_ascii = text.empty() || (text.front() & 0x80) == 0;
+  if (is_ascii) return '\0';
   for (const SerbianLetter& letter : SerbianLetters())
     if (TakeOff(text, letter.cyrillic)) return letter.stored;
   for (const Spelling& digraph : single_digraphs)
@@ -85,6 +92,7 @@ char TakeCyrillic(std::string_view& text) {
 
 char TakeLatin(std::string_view& text, bool digraphs) {
   for (const SerbianLetter& letter : SerbianLetters()) {
+    if (!MayBegin(text, letter.latin)) continue;
     const bool is_digraph = std::string_view("QWXqwx").find(letter.stored) != std::string::npos;
     if ((digraphs || !is_digraph) && TakeOff(text, letter.latin)) return letter.stored;
   }
