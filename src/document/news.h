@@ -35,6 +35,7 @@ enum class News {
   no_empty_cell,
   nothing_selected,  ///< By a click on a cell with one word, whose direction was not at hand.
   no_crossing_word,
+  no_medium,     ///< The clue has none that could be opened.
   nothing_kept,  ///< The program has no folder for what it keeps; a file without a name says why.
   about,         ///< The program.
 };

@@ -136,9 +136,10 @@ class JpzReader {
     PuzzleCell& cell = puzzle_.At(place);
     const QString type = Attribute(u"type");
     has_clue_cells_ = has_clue_cells_ || type == u"clue";
-    cell.kind = type == u"void"                       ? CellKind::empty
-                : type == u"block" || type == u"clue" ? CellKind::block
-                                                      : CellKind::letter;
+    // Nothing of a cell of the same place before it is left.
+    cell = {.kind = type == u"void"                       ? CellKind::empty
+                    : type == u"block" || type == u"clue" ? CellKind::block
+                                                          : CellKind::letter};
     if (cell.kind != CellKind::letter) return;
     cell.solution = Attribute(u"solution").toStdString();
     cell.entry =

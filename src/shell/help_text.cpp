@@ -82,6 +82,7 @@ Ctrl+Enter - turns to the other word of the cell
 Alt+Down, Alt+Up - go to the next clue of the list and back; Alt+Left or Alt+Right to the other list
 Page Down, Page Up - turn the page of the list
 Alt+Enter, Esc - open what the clue has to see or to hear, and close it
+Ctrl+M - plays it, or makes a pause; with Shift, stops it
 
 Choices in the menu are remembered. With one, a click on a cell that has only one word always chooses that word. With the other, each letter goes into the grid as you type it, without Enter, and Ctrl+Z brings the whole word back as it was.
 

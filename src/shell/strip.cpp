@@ -79,7 +79,26 @@ bool TurnsClues() {
   return OnCrossword() && !others;
 }
 
-bool CanOpenMedium() { return OnCrossword() && HasMedium(); }
+void OpenMedium() {
+  if (HasMedium())
+    otvori_pitanje();
+  else
+    glavni.vest = {.news = News::no_medium};
+}
+
+template <toolkit::MediaButton Button>
+bool CanPressMedia() {
+  return frm_glavni->mm_media.CanPress(Button);
+}
+
+bool Plays() { return CanPressMedia<toolkit::MediaButton::pause>(); }
+bool CanPlay() { return Plays() || CanPressMedia<toolkit::MediaButton::play>(); }
+
+void PlayOrPause() {
+  frm_glavni->mm_media.Press(Plays() ? toolkit::MediaButton::pause : toolkit::MediaButton::play);
+}
+
+void StopMedium() { frm_glavni->mm_media.Press(toolkit::MediaButton::stop); }
 
 void ChangeContrast() {
   TurnChoice<&CrosswordState::visok_kontrast>();
@@ -149,10 +168,9 @@ constexpr MenuCommand movements[] = {
      TurnsClues,
      prethodna_strana},
     {},
-    {{"Otvori multimediju", "Open multimedia"},
-     "Alt+Enter;Alt+Return",
-     CanOpenMedium,
-     otvori_pitanje},
+    {{"Otvori multimediju", "Open multimedia"}, "Alt+Enter;Alt+Return", OnCrossword, OpenMedium},
+    {{"Pusti ili zastani", "Play or pause"}, "Ctrl+M", CanPlay, PlayOrPause},
+    {{"Zaustavi", "Stop"}, "Ctrl+Shift+M", CanPressMedia<toolkit::MediaButton::stop>, StopMedium},
     {{"Zatvori multimediju ili ceo ekran", "Close help, multimedia or full screen"},
      "Esc",
      CanLeave,

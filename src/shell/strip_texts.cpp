@@ -147,6 +147,7 @@ constexpr StripText nothing_selected = {
     "Only one word lies in this cell; a click on its clue brings it back."};
 constexpr StripText no_crossing_word = {"U ovom polju nema druge reči.",
                                         "No other word lies in this cell."};
+constexpr StripText no_medium = {"Ovo pitanje nema multimediju.", "This clue has no multimedia."};
 constexpr StripText solved = {"Bravo! Sva slova su na svom mestu.",
                               "Well done! Every letter is in its place."};
 constexpr StripText about_program = {
@@ -245,6 +246,8 @@ std::string TextOf(const Vest& vest) {
       return Shown(nothing_selected);
     case News::no_crossing_word:
       return Shown(no_crossing_word);
+    case News::no_medium:
+      return Shown(no_medium);
     case News::nothing_kept:
       return Shown(nothing_kept, Files(vest, true));
     case News::about:

@@ -42,6 +42,11 @@ class MediaBar : public QWidget {
     stop.setEnabled(state == State::playing || state == State::paused);
   }
 
+  QToolButton& Of(MediaButton button) {
+    if (button == MediaButton::stop) return stop;
+    return button == MediaButton::play ? play : pause;
+  }
+
   QToolButton play;
   QToolButton pause;
   QToolButton stop;
@@ -78,6 +83,12 @@ void MediaControl::SpokenNames(const std::string& play, const std::string& pause
   bar().pause.setAccessibleName(QString::fromStdString(pause));
   bar().stop.setAccessibleName(QString::fromStdString(stop));
 }
+
+bool MediaControl::CanPress(MediaButton button) const {
+  return Visible() && bar().Of(button).isEnabled();
+}
+
+void MediaControl::Press(MediaButton button) { bar().Of(button).click(); }
 
 void MediaControl::Command(std::string_view command) {
   if (command == "Open")

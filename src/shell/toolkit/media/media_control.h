@@ -12,6 +12,8 @@ namespace toolkit {
 class MediaBar;
 class MediaPlayer;
 
+enum class MediaButton { play, pause, stop };
+
 /// A player of sound, music and video, with a bar of the buttons play, pause and stop.
 class MediaControl : public Control {
  public:
@@ -35,6 +37,11 @@ class MediaControl : public Control {
   /// playing and returns. Error 68 if nothing is open. "close" stops and lets go of the file;
   /// nothing need be open. Error 5 for any other command.
   void Command(std::string_view command);
+
+  /// Whether the button can be pressed now.
+  [[nodiscard]] bool CanPress(MediaButton button) const;
+  /// Presses it, as a click does.
+  void Press(MediaButton button);
 
   /// A play has come to an end: of itself, by the button stop, or by a failure. Comes from the
   /// event loop, and not after "close". The argument is always 1.
